@@ -1,0 +1,53 @@
+# Quick start on a fresh Debian 12 machine:
+#   make run    install what is missing, build, start the program on the example world
+#   make test   install what is missing, build, run every test
+PACKAGES := build-essential cmake qt6-base-dev libgl-dev libgtest-dev libbenchmark-dev xvfb xauth
+BUILD := build
+ASAN_BUILD := build-asan
+JOBS ?= 2
+SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
+EXAMPLE := examples/example.om1
+
+.PHONY: all deps build run test sanitize bench clean format
+
+all: build
+
+deps:
+	@missing=""; for p in $(PACKAGES); do \
+	  dpkg-query -W -f='$${Status}' $$p 2>/dev/null | grep -q "install ok installed" || missing="$$missing $$p"; \
+	done; \
+	if [ -n "$$missing" ]; then \
+	  echo "Installing:$$missing"; \
+	  $(SUDO) apt-get update -qq && DEBIAN_FRONTEND=noninteractive $(SUDO) apt-get install -y -qq $$missing; \
+	fi
+
+$(BUILD)/CMakeCache.txt:
+	cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=Release
+
+build: deps $(BUILD)/CMakeCache.txt
+	cmake --build $(BUILD) -j$(JOBS)
+
+run: build
+	@if [ -x $(BUILD)/bin/wayscribe ]; then \
+	  $(BUILD)/bin/wayscribe $(EXAMPLE); \
+	else \
+	  $(BUILD)/bin/wayscribe-cli info $(EXAMPLE) && $(BUILD)/bin/wayscribe-cli stats $(EXAMPLE); \
+	fi
+
+test: build
+	ctest --test-dir $(BUILD) --output-on-failure -j$(JOBS)
+
+# The same tests under AddressSanitizer and UndefinedBehaviorSanitizer.
+sanitize: deps
+	cmake -S . -B $(ASAN_BUILD) -DCMAKE_BUILD_TYPE=Debug -DWAYSCRIBE_SANITIZE=ON -DWAYSCRIBE_BENCH=OFF -DWAYSCRIBE_WERROR=ON
+	cmake --build $(ASAN_BUILD) -j$(JOBS)
+	ASAN_OPTIONS=detect_leaks=0 ctest --test-dir $(ASAN_BUILD) --output-on-failure -j$(JOBS)
+
+bench: build
+	@for b in $(BUILD)/bin/*_bench; do echo "== $$b"; $$b; done
+
+format:
+	clang-format -i $$(git ls-files '*.cpp' '*.h')
+
+clean:
+	rm -rf $(BUILD) $(ASAN_BUILD)

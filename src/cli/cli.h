@@ -1,0 +1,33 @@
+#pragma once
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+namespace wayscribe::cli {
+
+inline constexpr int kOk = 0;
+inline constexpr int kInputError = 1;
+inline constexpr int kUsageError = 2;
+
+using Args = std::vector<std::string>;
+
+// Splits "--name value" options from the positional arguments. Returns false
+// (after a message) on an unknown option or one without its value.
+struct ParsedArgs {
+    std::vector<std::string> positional;
+    std::vector<std::pair<std::string, std::string>> options;
+    const std::string *option(const std::string &name) const;
+};
+bool parseArgs(const Args &args, const std::vector<std::string> &known, ParsedArgs &out, std::ostream &err);
+
+// Writes a text with its CR LF line breaks as LF.
+void writeWithUnixLineEnds(std::ostream &out, const std::string &text);
+
+// Each command returns the exit status.
+int runConvert(const Args &args, std::ostream &out, std::ostream &err);
+int runMerge(const Args &args, std::ostream &out, std::ostream &err);
+int runStats(const Args &args, std::ostream &out, std::ostream &err);
+int runInfo(const Args &args, std::ostream &out, std::ostream &err);
+
+} // namespace wayscribe::cli

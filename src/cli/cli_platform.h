@@ -1,0 +1,37 @@
+#pragma once
+
+#include "model/platform.h"
+
+#include <iosfwd>
+
+namespace wayscribe {
+
+// The platform of the command-line tool: what the desktop program would show
+// in a message box goes to standard error, questions get a fixed answer, and
+// nothing is ever chosen in a file dialog.
+class CliPlatform : public Platform {
+public:
+    explicit CliPlatform(std::ostream &err, Answer answer = Answer::Yes) : err_(err), answer_(answer) {}
+
+    Answer message(const std::string &text, const std::string &title, MessageButtons buttons, MessageIcon icon,
+                   const std::string &detail = {}) override;
+    std::string inputBox(const std::string &, const std::string &, const std::string &) override { return {}; }
+    std::string chooseOpenFile(const FileDialogRequest &) override { return {}; }
+    std::string chooseSaveFile(const FileDialogRequest &) override { return {}; }
+    std::string chooseFolder(const std::string &, const std::string &) override { return {}; }
+    void setClipboardText(const std::string &) override {}
+    void setStatus(const std::string &) override {}
+    void setWaitCursor(bool) override {}
+    void processEvents() override {}
+    void redrawMap() override {}
+    void mapLockChanged() override {}
+
+    int messageCount() const { return messages_; }
+
+private:
+    std::ostream &err_;
+    Answer answer_;
+    int messages_ = 0;
+};
+
+} // namespace wayscribe

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace wayscribe {
+
+// The player's preferences, kept in the options file between runs.
+struct Options {
+    bool importMap = true;      // OptImportMap
+    bool importShops = true;    // OptImportShops
+    bool importHides = true;    // OptImportHides
+    bool importDungeons = true; // OptImportDungeons
+    bool extra = true;          // OptExtra: dungeon and special markers
+    bool loadLock = false;      // OptLoadLock
+    bool lmol = false;          // OptLMOL: reopen the last map at start-up
+    std::string wmol;           // OptWMOL: the map last loaded or saved
+    std::int16_t xLeft = 0;     // OptXLeft
+    std::int16_t yTop = 0;      // OptYTop
+    std::string lastImp;        // OptLastImp
+    std::string lastFile;       // OptLastFile
+    std::string graphicsSetName = "kjc_set1";
+};
+
+inline constexpr int kMaxPathEntries = 100;
+
+// The small state of the main window that every part of the program shares.
+struct ProgramState {
+    std::uint8_t gameNumber = 0;
+    std::string mapFileName;
+    std::uint8_t mapChanged = 0;
+    std::uint8_t fileBusy = 0;
+    std::uint8_t mapLocked = 0;
+    std::int16_t fullRedraw = 0;
+    std::int16_t scrollBusy = 0;
+    std::int16_t viewLeft = 0;
+    std::int16_t viewTop = 0;
+    std::int16_t viewPixelWidth = 0;
+    std::int16_t viewPixelHeight = 0;
+    std::int16_t viewCols = 0;
+    std::int16_t viewRows = 0;
+    std::int16_t hoverX = 0;
+    std::int16_t hoverY = 0;
+    std::uint8_t selX = 0;
+    std::uint8_t selY = 0;
+    std::uint8_t selSettlement = 0;
+    std::int16_t selNumber = 0;
+    std::uint8_t travelHandOff = 0;
+    std::int16_t selShop = 0;
+    std::int16_t selItem = 0;
+    std::int16_t selShopItemCount = 0;
+    std::string notesSearchText;
+    std::int16_t selDungeon = 0;
+    std::int16_t dungeonFormOpen = 0;
+    std::int16_t moveMode = 0;
+    std::array<std::uint8_t, kMaxPathEntries + 1> pathX{};
+    std::array<std::uint8_t, kMaxPathEntries + 1> pathY{};
+    std::int16_t moveTotal = 0;
+    std::int16_t moveSteps = 0;
+    std::uint8_t moveCounterOn = 0;
+    std::string appFolder;
+    // Where the options file lives: beside the program, or in the person's
+    // configuration folder when the program's folder cannot be written.
+    std::string optionsFilePath;
+    Options options;
+};
+
+} // namespace wayscribe

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace wayscribe {
+
+// Text rules shared by every file format and window. Texts are single-byte
+// strings; "blanks" are spaces only: tabs and line breaks are never trimmed.
+
+std::string_view trimBlanks(std::string_view text);
+std::string_view trimLeftBlanks(std::string_view text);
+std::string_view trimRightBlanks(std::string_view text);
+
+// The first n characters (all of a shorter text), and the text from a
+// 1-based position (empty when the position is past the end).
+std::string_view leftChars(std::string_view text, std::size_t n);
+std::string_view fromPosition(std::string_view text, std::size_t position);
+
+bool startsWith(std::string_view text, std::string_view prefix);
+bool contains(std::string_view text, std::string_view part);
+std::string replaceAll(std::string_view text, std::string_view from, std::string_view to);
+
+// The numeric value of a text: blanks are skipped, the number is read up to
+// the first character that cannot continue it; no leading number gives 0.
+double textValue(std::string_view text);
+
+// Rounds to the nearest integer, halves to the even neighbour. Every place
+// that turns a value into an index rounds through here.
+double roundHalfEven(double value);
+
+// The value of a text rounded for use as an index; saturates far outside
+// the int range so that range checks stay simple.
+long long indexValue(std::string_view text);
+
+// The general number format: decimal, one blank before a number that is not
+// negative (" 31", "-2", " 1.5").
+std::string formatGeneral(double value);
+
+// Plain decimal, no blank.
+std::string formatPlain(long long value);
+
+// Proper case (first letter of every word upper case, the rest lower case)
+// or lower case of a Windows-1252 text.
+std::string changeCase(std::string_view text, bool proper);
+
+// Case folding of one Windows-1252 character.
+char toLowerChar(char c);
+char toUpperChar(char c);
+bool equalsIgnoreCase(std::string_view a, std::string_view b);
+
+// Reads values from a text the way comma-separated input does: blanks
+// before a value are skipped; a value that begins with a double quote runs to
+// the next double quote and loses the quotes; any other value ends at a comma
+// or the end of the line and drops its trailing blanks. The comma or line end
+// that ends a value is consumed. Lines end with CR LF, LF or CR.
+class CsvReader {
+public:
+    explicit CsvReader(std::string_view text) : text_(text) {}
+
+    // False at the end of the text.
+    bool next(std::string &value);
+    bool atEnd() const { return pos_ >= text_.size(); }
+    // 1-based line number of the next character to read.
+    int line() const { return line_; }
+
+private:
+    void consumeLineEnd();
+
+    std::string_view text_;
+    std::size_t pos_ = 0;
+    int line_ = 1;
+};
+
+} // namespace wayscribe

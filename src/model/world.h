@@ -1,0 +1,135 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace wayscribe {
+
+// Capacities and index ranges of the world tables. These numbers are the
+// contract with the map file and every importer: nothing in the model grows.
+inline constexpr int kMapSize = 200;            // sectors 1..200 in X and Y
+inline constexpr int kMaxSettlements = 160;     // settlements 1..160
+inline constexpr int kMaxShop = 110;            // shops 0..110
+inline constexpr int kShopCount = kMaxShop + 1; // shops per settlement
+inline constexpr int kItemsPerShop = 20;        // items 1..20
+inline constexpr int kMaxDungeons = 200;        // dungeons 1..200
+inline constexpr int kLevelsPerDungeon = 10;    // levels 1..10
+inline constexpr int kQuestorFirstItem = 101;   // QuestOR item names 101..1000
+inline constexpr int kQuestorLastItem = 1000;
+
+inline bool isSectorIndex(int v) { return v >= 1 && v <= kMapSize; }
+inline bool isSettlementIndex(int n) { return n >= 1 && n <= kMaxSettlements; }
+inline bool isShopIndex(int s) { return s >= 0 && s <= kMaxShop; }
+inline bool isItemIndex(int i) { return i >= 1 && i <= kItemsPerShop; }
+inline bool isDungeonIndex(int d) { return d >= 1 && d <= kMaxDungeons; }
+inline bool isLevelIndex(int l) { return l >= 1 && l <= kLevelsPerDungeon; }
+
+struct Sector {
+    std::uint8_t terrain = 1;
+    std::uint8_t settlementNumber = 0;
+    std::uint16_t moveMark = 0;
+    std::string note;
+    std::string settlementName;
+};
+
+enum class ItemField { Name = 0, Number = 1, Price = 2 };
+
+// All texts of one shop: its name and the three fields of items 1..20.
+// Used to read or replace a whole shop at once (loading, merging).
+struct ShopTexts {
+    std::string name;
+    std::array<std::array<std::string, 3>, kItemsPerShop + 1> items; // [item][field], item 0 unused
+
+    std::string &item(int i, ItemField f) { return items[i][static_cast<int>(f)]; }
+    const std::string &item(int i, ItemField f) const { return items[i][static_cast<int>(f)]; }
+};
+
+// A shop's 61 texts packed into one buffer: a full map holds over three
+// million item texts, and one std::string each would not fit the memory
+// budget. An empty shop owns no heap memory at all.
+class PackedShop {
+public:
+    static constexpr int kFieldCount = 1 + 3 * kItemsPerShop;
+
+    std::string_view field(int index) const;
+    void setField(int index, std::string_view text);
+    void assign(const ShopTexts &texts);
+    ShopTexts unpack() const;
+    bool empty() const { return data_.empty(); }
+    std::size_t heapBytes() const { return data_.capacity() > 15 ? data_.capacity() : 0; }
+
+    static int itemFieldIndex(int item, ItemField f) { return 1 + (item - 1) * 3 + static_cast<int>(f); }
+
+private:
+    // Layout: kFieldCount + 1 little offsets (uint32) then the characters.
+    std::string data_;
+};
+
+struct Settlement {
+    std::uint8_t inUse = 0;
+    std::uint8_t x = 0;
+    std::uint8_t y = 0;
+    std::string cityState;
+};
+
+struct DungeonLevel {
+    std::string map;
+    std::string roomData;
+};
+
+struct Dungeon {
+    std::string name;
+    std::int16_t levels = 0;
+    std::array<DungeonLevel, kLevelsPerDungeon + 1> level; // levels 1..10, slot 0 unused
+};
+
+// The one store of everything known about a game world. Every table has its
+// fixed capacity; accessors check indices and throw std::out_of_range on a
+// programming error, so that no input can ever write outside a table.
+class World {
+public:
+    World();
+    World(const World &) = delete;
+    World &operator=(const World &) = delete;
+
+    Sector &sector(int x, int y);
+    const Sector &sector(int x, int y) const;
+
+    Settlement &settlement(int n);
+    const Settlement &settlement(int n) const;
+
+    std::string_view shopName(int n, int shop) const;
+    void setShopName(int n, int shop, std::string_view name);
+    std::string_view item(int n, int shop, int item, ItemField f) const;
+    void setItem(int n, int shop, int item, ItemField f, std::string_view text);
+    ShopTexts shop(int n, int shop) const;
+    void setShop(int n, int shop, const ShopTexts &texts);
+
+    Dungeon &dungeon(int d); // 0..200: slot 0 exists but is never used
+    const Dungeon &dungeon(int d) const;
+
+    std::string &questorItemName(int number); // 101..1000
+    const std::string &questorItemName(int number) const;
+
+    // The clearing of a new map: every table back to its empty state.
+    void clear();
+
+    // Bytes held by the tables and their texts (for the memory benchmark).
+    std::size_t memoryBytes() const;
+
+private:
+    const PackedShop &packed(int n, int shop) const;
+    PackedShop &packed(int n, int shop);
+
+    std::vector<Sector> sectors_;                       // (kMapSize+1)^2, row 0 / column 0 unused
+    std::array<Settlement, kMaxSettlements + 1> settlements_;
+    std::vector<PackedShop> shops_;                     // (kMaxSettlements+1) * kShopCount
+    std::vector<Dungeon> dungeons_;                     // kMaxDungeons + 1
+    std::vector<std::string> questorItemNames_;         // kQuestorLastItem + 1
+};
+
+} // namespace wayscribe

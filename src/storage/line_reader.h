@@ -1,0 +1,73 @@
+#pragma once
+
+#include <cstdint>
+#include <cstdio>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace wayscribe {
+
+// Reads a text file line by line in one pass through a fixed buffer. Lines
+// end with LF or CR LF; the last line may lack its end.
+class LineReader {
+public:
+    LineReader() = default;
+    ~LineReader();
+    LineReader(const LineReader &) = delete;
+    LineReader &operator=(const LineReader &) = delete;
+
+    // False (with error()) when the file cannot be opened or is a folder.
+    bool open(const std::string &path);
+    // The next line without its line end, valid until the next call; false
+    // at the end of the file or on a read error (error() tells which).
+    bool next(std::string_view &line);
+    // Number of the line last returned, counting from 1.
+    long lineNumber() const { return lineNumber_; }
+    const std::string &error() const { return error_; }
+
+private:
+    bool fill();
+
+    std::FILE *file_ = nullptr;
+    std::vector<char> buffer_;
+    std::size_t begin_ = 0;
+    std::size_t end_ = 0;
+    bool eof_ = false;
+    long lineNumber_ = 0;
+    std::string error_;
+};
+
+// The map file's value lines, read through a LineReader. Every read either
+// delivers its value or fails with a reason; the caller stops at the first
+// failure and keeps what it has.
+class MapLineReader {
+public:
+    explicit MapLineReader(LineReader &lines) : lines_(lines) {}
+
+    bool readRaw(std::string_view &line);
+    bool readByte(std::uint8_t &value);
+    bool readInt16(std::int16_t &value);
+    // A quoted text: everything between the first and the last character.
+    bool readText(std::string &value);
+    // The same, with every "@/@" turned back into CR LF.
+    bool readEscapedText(std::string &value);
+    // Skips one text line, checking only its form.
+    bool skipText();
+
+    const std::string &error() const { return error_; }
+    long lineNumber() const { return lines_.lineNumber(); }
+
+private:
+    bool readNumber(long min, long max, long &value);
+    bool readTextView(std::string_view &inner);
+
+    LineReader &lines_;
+    std::string error_;
+};
+
+// The format version a map file's first line announces: 10..18, or 0 for
+// a file without a recognised header.
+int mapFormatVersion(std::string_view headerLine);
+
+} // namespace wayscribe

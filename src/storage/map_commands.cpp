@@ -1,0 +1,127 @@
+#include "storage/map_commands.h"
+
+#include "model/platform.h"
+#include "model/program_state.h"
+#include "model/text.h"
+#include "model/world.h"
+#include "storage/map_file.h"
+#include "storage/map_merge.h"
+#include "storage/options_file.h"
+
+#include <fstream>
+
+namespace wayscribe {
+
+std::string folderPart(const std::string &path)
+{
+    const std::size_t slash = path.find_last_of("/\\");
+    return slash == std::string::npos ? std::string() : path.substr(0, slash + 1);
+}
+
+bool fileExists(const std::string &path)
+{
+    std::ifstream in(path, std::ios::binary);
+    return static_cast<bool>(in);
+}
+
+namespace {
+
+// The end of every file job, whether it completed or not.
+void finishFileJob(ProgramState &state, Platform &platform)
+{
+    state.fileBusy = 0;
+    platform.setWaitCursor(false);
+    platform.setStatus("");
+}
+
+} // namespace
+
+bool Load_Map(World &world, ProgramState &state, Platform &platform, const std::string &name)
+{
+    std::string path = name;
+    if (path.empty()) {
+        path = platform.chooseOpenFile({"Load Map File...", kMapFileFilter, state.options.lastFile, ""});
+        if (path.empty())
+            return false;
+    }
+    state.mapChanged = 0;
+    platform.setStatus("Please wait, loading map...");
+    platform.setWaitCursor(true);
+    state.fileBusy = 1;
+    state.mapFileName = path;
+    state.options.lastFile = folderPart(path);
+    state.options.wmol = path;
+    writeOptions(state, platform);
+
+    const MapReadResult result = readMapFile(path, world, state.gameNumber);
+    finishFileJob(state, platform);
+    if (!result.ok) {
+        // The model now mixes the old map with the part of the file that
+        // could be read: keep it marked as changed so that nothing is
+        // discarded without a question.
+        state.mapChanged = result.error.line > 1 ? 1 : state.mapChanged;
+        platform.message("The map file could not be read completely. Everything up to the broken line has "
+                         "been loaded; the rest of the map is as it was.",
+                         kProgramTitle, MessageButtons::Ok, MessageIcon::Exclamation, result.error.describe());
+        platform.redrawMap();
+        return false;
+    }
+    if (state.options.loadLock) {
+        state.mapLocked = 1;
+        platform.mapLockChanged();
+    }
+    platform.redrawMap();
+    return true;
+}
+
+bool Save_Map(World &world, ProgramState &state, Platform &platform, bool chooseFile)
+{
+    std::string target;
+    if (chooseFile) {
+        target = platform.chooseSaveFile({"Save Map File As...", kMapFileFilter, "", ""});
+        if (target.empty())
+            return false;
+        if (fileExists(target) &&
+            platform.message("Are you sure you wish to over-write this file?", "Sure?", MessageButtons::YesNo,
+                             MessageIcon::Question) != Answer::Yes)
+            return false;
+        state.mapChanged = 0;
+        state.mapFileName = target;
+    } else {
+        state.mapChanged = 0;
+        target = state.mapFileName;
+    }
+    state.options.wmol = target;
+    platform.setStatus("Please wait, saving map...");
+    platform.setWaitCursor(true);
+    state.fileBusy = 1;
+    FileError error;
+    const bool ok = writeMapFile(target, world, state.gameNumber, error);
+    finishFileJob(state, platform);
+    if (!ok) {
+        state.mapChanged = 1;
+        platform.message("The map could not be saved. The file on disk is unchanged and the map is still "
+                         "marked as changed.",
+                         kProgramTitle, MessageButtons::Ok, MessageIcon::Critical, error.describe());
+    }
+    return ok;
+}
+
+void mergeMapCommand(World &world, ProgramState &state, Platform &platform)
+{
+    const std::string path = platform.chooseOpenFile({"Merge Map File...", kMapFileFilter, "", ""});
+    if (path.empty() || !contains(path, ".om1"))
+        return;
+    state.mapChanged = 1;
+    platform.setStatus("Please wait, merging maps...");
+    platform.setWaitCursor(true);
+    state.fileBusy = 1;
+    const MapReadResult result = mergeMapFile(path, world, state.gameNumber);
+    if (!result.ok)
+        platform.message("There was an unknown error merging the map.", kProgramTitle, MessageButtons::Ok,
+                         MessageIcon::None, result.error.describe());
+    finishFileJob(state, platform);
+    platform.redrawMap();
+}
+
+} // namespace wayscribe

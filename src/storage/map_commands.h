@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+
+namespace wayscribe {
+
+class World;
+struct ProgramState;
+class Platform;
+
+inline constexpr const char *kMapFileFilter = "Orven Mapper Files (*.om1)|*.om1";
+
+// Loads a map: `name` empty asks for a file first. True when a file was
+// read completely; a broken file is reported and what was read stays.
+bool Load_Map(World &world, ProgramState &state, Platform &platform, const std::string &name);
+
+// Saves the map; `chooseFile` asks for a file name (Save As, or Save of a
+// map that has none). True when the file was written. A failed save is
+// reported and leaves the map marked as changed.
+bool Save_Map(World &world, ProgramState &state, Platform &platform, bool chooseFile);
+
+// File, Merge Map: asks for a second map file and merges it in.
+void mergeMapCommand(World &world, ProgramState &state, Platform &platform);
+
+// Everything up to and including the last folder separator of a path.
+std::string folderPart(const std::string &path);
+
+bool fileExists(const std::string &path);
+
+} // namespace wayscribe
