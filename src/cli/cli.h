@@ -24,10 +24,4 @@ bool parseArgs(const Args &args, const std::vector<std::string> &known, ParsedAr
 // Writes a text with its CR LF line breaks as LF.
 void writeWithUnixLineEnds(std::ostream &out, const std::string &text);
 
-// Each command returns the exit status.
-int runConvert(const Args &args, std::ostream &out, std::ostream &err);
-int runMerge(const Args &args, std::ostream &out, std::ostream &err);
-int runStats(const Args &args, std::ostream &out, std::ostream &err);
-int runInfo(const Args &args, std::ostream &out, std::ostream &err);
-
 } // namespace wayscribe::cli

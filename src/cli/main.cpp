@@ -1,27 +1,28 @@
 // wayscribe-cli: the desktop program's scripting companion.
-#include "cli/cli.h"
+#include "cli/command_registry.h"
 
+#include <algorithm>
+#include <cstring>
 #include <iostream>
+
+namespace wayscribe::cli {
+
+std::vector<CommandEntry> &commandTable()
+{
+    static std::vector<CommandEntry> table;
+    return table;
+}
+
+} // namespace wayscribe::cli
 
 namespace {
 
-struct Command {
-    const char *name;
-    const char *usage;
-    int (*run)(const wayscribe::cli::Args &, std::ostream &, std::ostream &);
-};
-
-const Command kCommands[] = {
-    {"convert", "convert MAP OUT", wayscribe::cli::runConvert},
-    {"merge", "merge MAP OTHER --out OUT", wayscribe::cli::runMerge},
-    {"stats", "stats MAP", wayscribe::cli::runStats},
-    {"info", "info MAP", wayscribe::cli::runInfo},
-};
-
 int usage(std::ostream &err)
 {
+    auto table = wayscribe::cli::commandTable();
+    std::sort(table.begin(), table.end(), [](const auto &a, const auto &b) { return std::strcmp(a.name, b.name) < 0; });
     err << "usage: wayscribe-cli COMMAND ...\n";
-    for (const Command &c : kCommands)
+    for (const auto &c : table)
         err << "  wayscribe-cli " << c.usage << '\n';
     return wayscribe::cli::kUsageError;
 }
@@ -38,7 +39,7 @@ int main(int argc, char **argv)
         usage(std::cout);
         return wayscribe::cli::kOk;
     }
-    for (const Command &c : kCommands)
+    for (const auto &c : wayscribe::cli::commandTable())
         if (name == c.name) {
             const wayscribe::cli::Args args(argv + 2, argv + argc);
             const int status = c.run(args, std::cout, std::cerr);

@@ -1,5 +1,5 @@
 // convert, merge, stats and info: the map file commands.
-#include "cli/cli.h"
+#include "cli/command_registry.h"
 
 #include "model/terrain.h"
 #include "model/world.h"
@@ -38,7 +38,7 @@ bool save(const std::string &path, const World &world, std::uint8_t gameNumber, 
 
 } // namespace
 
-int runConvert(const Args &args, std::ostream &, std::ostream &err)
+static int runConvert(const Args &args, std::ostream &, std::ostream &err)
 {
     if (args.size() != 2)
         return kUsageError;
@@ -49,7 +49,7 @@ int runConvert(const Args &args, std::ostream &, std::ostream &err)
     return save(args[1], *world, game, err) ? kOk : kInputError;
 }
 
-int runMerge(const Args &args, std::ostream &, std::ostream &err)
+static int runMerge(const Args &args, std::ostream &, std::ostream &err)
 {
     ParsedArgs p;
     if (!parseArgs(args, {"--out"}, p, err) || p.positional.size() != 2 || !p.option("--out"))
@@ -66,7 +66,7 @@ int runMerge(const Args &args, std::ostream &, std::ostream &err)
     return save(*p.option("--out"), *world, game, err) ? kOk : kInputError;
 }
 
-int runStats(const Args &args, std::ostream &out, std::ostream &err)
+static int runStats(const Args &args, std::ostream &out, std::ostream &err)
 {
     if (args.size() != 1)
         return kUsageError;
@@ -79,7 +79,7 @@ int runStats(const Args &args, std::ostream &out, std::ostream &err)
     return kOk;
 }
 
-int runInfo(const Args &args, std::ostream &out, std::ostream &err)
+static int runInfo(const Args &args, std::ostream &out, std::ostream &err)
 {
     if (args.size() != 1)
         return kUsageError;
@@ -115,5 +115,10 @@ int runInfo(const Args &args, std::ostream &out, std::ostream &err)
         << "dungeons: " << dungeons << '\n';
     return kOk;
 }
+
+const CommandRegistration convertCommand("convert", "convert MAP OUT", runConvert);
+const CommandRegistration mergeCommand("merge", "merge MAP OTHER --out OUT", runMerge);
+const CommandRegistration statsCommand("stats", "stats MAP", runStats);
+const CommandRegistration infoCommand("info", "info MAP", runInfo);
 
 } // namespace wayscribe::cli
