@@ -42,7 +42,9 @@ public:
     virtual void setWaitCursor(bool waiting) = 0;
     // Lets the interface handle pending events; implementations throttle it.
     virtual void processEvents() = 0;
-    // The redraw protocol: FullRedraw := 1, Refresh_Map, FullRedraw := 0.
+    // The redraw protocol: the scroll bars follow ViewLeft / ViewTop (with
+    // ScrollBusy set meanwhile), then FullRedraw := 1, Refresh_Map (which
+    // also redraws the minimap), FullRedraw := 0.
     virtual void redrawMap() = 0;
     // The map lock changed behind the window's back (a load with LoadLock).
     virtual void mapLockChanged() = 0;
