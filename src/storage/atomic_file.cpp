@@ -54,6 +54,11 @@ bool BufferedFileWriter::open(const std::string &target, std::string &reason)
         reason = "it is a folder, not a file";
         return false;
     }
+    // Renaming over a device or a pipe would replace it with a plain file.
+    if (::stat(target.c_str(), &info) == 0 && !S_ISREG(info.st_mode)) {
+        reason = "it is not an ordinary file";
+        return false;
+    }
     target_ = target;
     const std::size_t slash = target.find_last_of('/');
     const std::string folder = slash == std::string::npos ? std::string() : target.substr(0, slash + 1);
