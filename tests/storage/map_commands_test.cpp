@@ -1,0 +1,140 @@
+#include "model/program_state.h"
+#include "model/world.h"
+#include "storage/map_commands.h"
+#include "storage/map_file.h"
+#include "support/test_support.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+using namespace wayscribe;
+using namespace wayscribe::test;
+
+namespace {
+struct Fixture {
+    TempDir dir;
+    std::unique_ptr<World> world = std::make_unique<World>();
+    ProgramState state;
+    ScriptedPlatform platform;
+    Fixture() { state.optionsFilePath = dir.file("wayscribe.ini"); }
+    std::string saved(const std::string &name)
+    {
+        World w;
+        w.sector(3, 3).terrain = 9;
+        FileError e;
+        writeMapFile(dir.file(name), w, 5, e);
+        return dir.file(name);
+    }
+};
+} // namespace
+
+TEST(LoadMap, RemembersTheMapInTheOptionsAndLocksWhenAsked)
+{
+    Fixture f;
+    const std::string path = f.saved("w.om1");
+    f.state.mapChanged = 1;
+    f.state.options.loadLock = true;
+    f.platform.files.push_back(path);
+    ASSERT_TRUE(Load_Map(*f.world, f.state, f.platform, ""));
+    ASSERT_EQ(f.platform.dialogs.size(), 1u);
+    EXPECT_EQ(f.platform.dialogs[0].title, "Load Map File...");
+    EXPECT_EQ(f.platform.dialogs[0].filter, "Orven Mapper Files (*.om1)|*.om1");
+    EXPECT_EQ(f.world->sector(3, 3).terrain, 9);
+    EXPECT_EQ(f.state.gameNumber, 5);
+    EXPECT_EQ(f.state.mapChanged, 0);
+    EXPECT_EQ(f.state.fileBusy, 0);
+    EXPECT_EQ(f.state.mapFileName, path);
+    EXPECT_EQ(f.state.options.lastFile, f.dir.path().string() + "/");
+    EXPECT_EQ(f.state.mapLocked, 1);
+    EXPECT_EQ(f.platform.lockChanges, 1);
+    EXPECT_EQ(f.platform.redraws, 1);
+    EXPECT_EQ(f.platform.statuses.front(), "Please wait, loading map...");
+    EXPECT_EQ(f.platform.statuses.back(), "");
+    EXPECT_NE(readFile(f.dir.file("wayscribe.ini")).find("WMOL = " + path), std::string::npos);
+}
+
+TEST(LoadMap, CancelChangesNothingAndABrokenFileIsReported)
+{
+    Fixture f;
+    f.state.mapChanged = 1;
+    EXPECT_FALSE(Load_Map(*f.world, f.state, f.platform, ""));
+    EXPECT_EQ(f.state.mapChanged, 1);
+    EXPECT_TRUE(f.platform.statuses.empty());
+
+    writeFile(f.dir.file("bad.om1"), "\"v017\"\r\n7\r\n300\r\n");
+    f.state.mapChanged = 0;
+    EXPECT_FALSE(Load_Map(*f.world, f.state, f.platform, f.dir.file("bad.om1")));
+    ASSERT_EQ(f.platform.messages.size(), 1u);
+    EXPECT_NE(f.platform.messages[0].detail.find("bad.om1, line 3"), std::string::npos);
+    EXPECT_EQ(f.state.gameNumber, 7) << "what was read stays";
+    EXPECT_EQ(f.state.fileBusy, 0);
+    EXPECT_FALSE(f.platform.waitCursor);
+    EXPECT_EQ(f.state.mapChanged, 1) << "a half-loaded map is not discarded silently";
+}
+
+TEST(SaveMap, AsksForANameOnlyWhenItHasToAndBeforeOverwriting)
+{
+    Fixture f;
+    f.world->sector(1, 1).terrain = 4;
+    f.state.mapChanged = 1;
+    // Save As, cancelled.
+    EXPECT_FALSE(Save_Map(*f.world, f.state, f.platform, true));
+    EXPECT_EQ(f.platform.dialogs.back().title, "Save Map File As...");
+    EXPECT_EQ(f.state.mapChanged, 1);
+    // Existing file, overwrite declined.
+    const std::string existing = f.saved("old.om1");
+    f.platform.files.push_back(existing);
+    f.platform.answers.push_back(Answer::No);
+    EXPECT_FALSE(Save_Map(*f.world, f.state, f.platform, true));
+    EXPECT_EQ(f.platform.messages.back().text, "Are you sure you wish to over-write this file?");
+    EXPECT_EQ(f.platform.messages.back().title, "Sure?");
+    EXPECT_EQ(f.state.mapChanged, 1);
+    // Accepted.
+    f.platform.files.push_back(existing);
+    f.platform.answers.push_back(Answer::Yes);
+    EXPECT_TRUE(Save_Map(*f.world, f.state, f.platform, true));
+    EXPECT_EQ(f.state.mapChanged, 0);
+    EXPECT_EQ(f.state.mapFileName, existing);
+    EXPECT_EQ(f.state.options.wmol, existing);
+    // Plain save writes to the map's file without any dialog.
+    const std::size_t dialogs = f.platform.dialogs.size();
+    f.world->sector(1, 1).terrain = 5;
+    EXPECT_TRUE(Save_Map(*f.world, f.state, f.platform, false));
+    EXPECT_EQ(f.platform.dialogs.size(), dialogs);
+    World back;
+    std::uint8_t game;
+    ASSERT_TRUE(readMapFile(existing, back, game).ok);
+    EXPECT_EQ(back.sector(1, 1).terrain, 5);
+}
+
+TEST(SaveMap, AFailedSaveKeepsTheMapMarkedAsChanged)
+{
+    Fixture f;
+    f.state.mapFileName = f.dir.file("gone/world.om1");
+    f.state.mapChanged = 1;
+    EXPECT_FALSE(Save_Map(*f.world, f.state, f.platform, false));
+    EXPECT_EQ(f.state.mapChanged, 1);
+    EXPECT_EQ(f.state.fileBusy, 0);
+    ASSERT_EQ(f.platform.messages.size(), 1u);
+    EXPECT_NE(f.platform.messages[0].detail.find("gone/world.om1"), std::string::npos);
+}
+
+TEST(MergeCommand, IgnoresOtherFilesAndReportsBrokenOnes)
+{
+    Fixture f;
+    f.platform.files.push_back(f.dir.file("notes.txt"));
+    mergeMapCommand(*f.world, f.state, f.platform);
+    EXPECT_EQ(f.state.mapChanged, 0) << "a file without .om1 is ignored";
+    EXPECT_EQ(f.platform.redraws, 0);
+
+    writeFile(f.dir.file("broken.om1"), "\"v017\"\r\n");
+    f.platform.files.push_back(f.dir.file("broken.om1"));
+    mergeMapCommand(*f.world, f.state, f.platform);
+    ASSERT_EQ(f.platform.messages.size(), 1u);
+    EXPECT_EQ(f.platform.messages[0].text, "There was an unknown error merging the map.");
+    EXPECT_EQ(f.platform.dialogs.back().title, "Merge Map File...");
+    EXPECT_EQ(f.state.mapChanged, 1);
+    EXPECT_EQ(f.state.fileBusy, 0);
+    EXPECT_EQ(f.platform.redraws, 1);
+}
