@@ -196,6 +196,38 @@ const std::string &World::questorItemName(int number) const
     return const_cast<World *>(this)->questorItemName(number);
 }
 
+namespace {
+
+std::uint32_t questorItemKey(int n, int shop, int item)
+{
+    if (n < 0 || n > kMaxSettlements)
+        badIndex("settlement", n);
+    if (!isShopIndex(shop))
+        badIndex("shop", shop);
+    if (item < 0 || item > kItemsPerShop)
+        badIndex("QuestOR name index item", item);
+    return static_cast<std::uint32_t>((n * kShopCount + shop) * (kItemsPerShop + 1) + item);
+}
+
+} // namespace
+
+int World::questorNameIndex(int n, int shop, int item) const
+{
+    const auto found = questorNameIndexes_.find(questorItemKey(n, shop, item));
+    return found == questorNameIndexes_.end() ? 0 : found->second;
+}
+
+void World::setQuestorNameIndex(int n, int shop, int item, int index)
+{
+    const std::uint32_t key = questorItemKey(n, shop, item);
+    if (index < 0 || index > 0xFFFF)
+        badIndex("QuestOR name index", index);
+    if (index == 0)
+        questorNameIndexes_.erase(key);
+    else
+        questorNameIndexes_[key] = static_cast<std::uint16_t>(index);
+}
+
 void World::clear()
 {
     for (Sector &s : sectors_)
@@ -208,6 +240,7 @@ void World::clear()
         d = Dungeon{};
     for (std::string &name : questorItemNames_)
         name.clear();
+    // The QuestOR name indexes stay: a new map empties only the item name table.
 }
 
 std::size_t World::memoryBytes() const
@@ -231,6 +264,8 @@ std::size_t World::memoryBytes() const
     total += questorItemNames_.capacity() * sizeof(std::string);
     for (const std::string &s : questorItemNames_)
         total += heap(s);
+    total += questorNameIndexes_.bucket_count() * sizeof(void *) +
+             questorNameIndexes_.size() * (sizeof(void *) + sizeof(std::size_t) + 2 * sizeof(std::uint32_t));
     return total;
 }
 

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace wayscribe {
@@ -115,6 +116,13 @@ public:
     std::string &questorItemName(int number); // 101..1000
     const std::string &questorItemName(int number) const;
 
+    // The QuestOR name index of item 0..20 of a shop, 0 when it has none.
+    // The QuestOR import matches special item names against it; it is never
+    // saved, and a new map leaves it alone, so indexes that one import did not
+    // use stay for the next.
+    int questorNameIndex(int n, int shop, int item) const;
+    void setQuestorNameIndex(int n, int shop, int item, int index); // index 0..65535
+
     // The clearing of a new map: every table back to its empty state.
     void clear();
 
@@ -130,6 +138,8 @@ private:
     std::vector<PackedShop> shops_;                     // (kMaxSettlements+1) * kShopCount
     std::vector<Dungeon> dungeons_;                     // kMaxDungeons + 1
     std::vector<std::string> questorItemNames_;         // kQuestorLastItem + 1
+    // Few items ever carry a name index: kept sparse, by item position.
+    std::unordered_map<std::uint32_t, std::uint16_t> questorNameIndexes_;
 };
 
 } // namespace wayscribe
