@@ -5,6 +5,7 @@
 #include "model/text.h"
 #include "model/world.h"
 #include "storage/map_file.h"
+#include "model/new_map.h"
 #include "storage/map_merge.h"
 #include "storage/options_file.h"
 
@@ -105,6 +106,48 @@ bool Save_Map(World &world, ProgramState &state, Platform &platform, bool choose
                          kProgramTitle, MessageButtons::Ok, MessageIcon::Critical, error.describe());
     }
     return ok;
+}
+
+void newMapCommand(World &world, ProgramState &state, Platform &platform)
+{
+    if (state.mapChanged == 1 &&
+        platform.message("Are you sure you wish to New the map without saving?", "Sure?", MessageButtons::YesNo,
+                         MessageIcon::Question) == Answer::Yes)
+        state.mapChanged = 0;
+    if (state.mapChanged == 0)
+        NewMap(world, state, platform);
+}
+
+void loadMapCommand(World &world, ProgramState &state, Platform &platform, bool fromMenu)
+{
+    if (state.mapChanged == 1) {
+        const Answer a =
+            fromMenu ? platform.message("Are you sure you wish to load a new map without saving?", "Sure?",
+                                        MessageButtons::YesNo, MessageIcon::Critical)
+                     : platform.message("Are you sure you wish to Load a map without saving current map?", "Sure?",
+                                        MessageButtons::YesNo, MessageIcon::Question);
+        if (a == Answer::Yes)
+            state.mapChanged = 0;
+    }
+    if (state.mapChanged == 0)
+        Load_Map(world, state, platform, "");
+}
+
+bool confirmExit(World &world, ProgramState &state, Platform &platform)
+{
+    if (state.mapChanged != 1)
+        return true;
+    switch (platform.message("Do you wish to save the map before exiting?", "Save before exit?",
+                             MessageButtons::YesNoCancel, MessageIcon::Information)) {
+    case Answer::Yes:
+        Save_Map(world, state, platform, true);
+        return true;
+    case Answer::No:
+        state.mapChanged = 0;
+        return true;
+    default:
+        return false;
+    }
 }
 
 void mergeMapCommand(World &world, ProgramState &state, Platform &platform)

@@ -19,6 +19,17 @@ bool Load_Map(World &world, ProgramState &state, Platform &platform, const std::
 // reported and leaves the map marked as changed.
 bool Save_Map(World &world, ProgramState &state, Platform &platform, bool chooseFile);
 
+// The New commands: asks before discarding a changed map, then clears it.
+void newMapCommand(World &world, ProgramState &state, Platform &platform);
+
+// The Load Map button (`fromMenu` false) and File, Open (true): the same
+// load after differently worded questions about a changed map.
+void loadMapCommand(World &world, ProgramState &state, Platform &platform, bool fromMenu);
+
+// The exit question for a changed map. False when the person cancels the
+// exit; otherwise the map was saved or its changes dropped as they chose.
+bool confirmExit(World &world, ProgramState &state, Platform &platform);
+
 // File, Merge Map: asks for a second map file and merges it in.
 void mergeMapCommand(World &world, ProgramState &state, Platform &platform);
 

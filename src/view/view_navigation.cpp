@@ -2,6 +2,7 @@
 
 #include "model/platform.h"
 #include "model/program_state.h"
+#include "model/text.h"
 #include "model/world.h"
 
 #include <algorithm>
@@ -27,6 +28,20 @@ void centreView(ProgramState &state, Platform &platform, int x, int y)
     state.viewLeft = clampOrigin(static_cast<long>(x) - state.viewCols / 2, state.viewCols);
     state.viewTop = clampOrigin(static_cast<long>(y) - state.viewRows / 2, state.viewRows);
     platform.redrawMap();
+}
+
+void gotoXYCommand(ProgramState &state, Platform &platform)
+{
+    const std::string answer = platform.inputBox(
+        "Please enter X and Y co-ordinates in the format 'X, Y' (eg '3, 78')", "Goto X:Y", "");
+    const std::size_t comma = answer.find(',');
+    if (comma == std::string::npos)
+        return;
+    const long long x = indexValue(std::string_view(answer).substr(0, comma));
+    const long long y = indexValue(std::string_view(answer).substr(comma + 1));
+    // Far-off numbers only need to stay far off: the clamp does the rest.
+    auto fit = [](long long v) { return static_cast<int>(std::clamp<long long>(v, -100000, 100000)); };
+    centreView(state, platform, fit(x), fit(y));
 }
 
 } // namespace wayscribe

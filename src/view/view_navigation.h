@@ -14,4 +14,8 @@ void clampView(ProgramState &state);
 // view goes to the nearest edge.
 void centreView(ProgramState &state, Platform &platform, int x, int y);
 
+// View, Goto X Y: asks for "X, Y" and centres the view there. An answer
+// without a comma does nothing; a part that is not a number counts as 0.
+void gotoXYCommand(ProgramState &state, Platform &platform);
+
 } // namespace wayscribe

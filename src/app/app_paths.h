@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+
+namespace wayscribe {
+
+// Where the program finds its pictures and keeps its options.
+struct AppPaths {
+    std::string appFolder;      // the folder of the program file
+    std::string graphicsFolder; // appFolder + "/graphics"
+    std::string optionsFile;    // wayscribe.ini beside the program, or in the
+                                // person's configuration folder when that one
+                                // cannot be written
+};
+
+AppPaths locateAppPaths();
+
+} // namespace wayscribe

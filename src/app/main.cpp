@@ -1,0 +1,34 @@
+// wayscribe: the desktop program.
+#include "app/Orvens_Mapper.h"
+#include "app/app_paths.h"
+#include "app/qt_platform.h"
+#include "app/qt_text.h"
+#include "model/program_state.h"
+#include "model/world.h"
+#include "storage/map_commands.h"
+
+#include <QApplication>
+#include <QFileInfo>
+
+#include <memory>
+
+int main(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    QApplication::setApplicationName("Wayscribe");
+    QApplication::setOrganizationName("Wayscribe");
+
+    auto world = std::make_unique<wayscribe::World>();
+    wayscribe::ProgramState state;
+    wayscribe::QtPlatform platform;
+    wayscribe::Orvens_Mapper window(*world, state, platform, wayscribe::locateAppPaths());
+    platform.attach(&window);
+    window.show();
+    if (!window.startUp())
+        return 1;
+    // A map named on the command line opens like File, Open.
+    const QStringList args = QApplication::arguments();
+    if (args.size() > 1)
+        wayscribe::Load_Map(*world, state, platform, wayscribe::fromQString(QFileInfo(args.at(1)).absoluteFilePath()));
+    return app.exec();
+}

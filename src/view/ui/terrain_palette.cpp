@@ -1,0 +1,45 @@
+#include "view/ui/terrain_palette.h"
+
+#include "app/qt_text.h"
+#include "model/terrain.h"
+#include "view/draw/tile_sheet.h"
+
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QPixmap>
+#include <QToolButton>
+
+namespace wayscribe {
+
+TerrainPalette::TerrainPalette(QWidget *parent) : QWidget(parent)
+{
+    setObjectName("iconselect");
+    auto *grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(2);
+    auto *group = new QButtonGroup(this);
+    for (int i = 0; i < 18; ++i) {
+        auto *b = new QToolButton(this);
+        const QString name = toQString(terrainName(i + 1));
+        b->setObjectName(QString("iconselect_%1").arg(i));
+        b->setCheckable(true);
+        b->setIconSize(QSize(24, 24));
+        b->setToolTip(name);
+        b->setAccessibleName(name);
+        b->setAutoRaise(true);
+        group->addButton(b, i);
+        grid->addWidget(b, i / 6, i % 6);
+        buttons_[i] = b;
+    }
+}
+
+void TerrainPalette::showTiles(const TileSheet &sheet)
+{
+    for (int i = 0; i < 18; ++i) {
+        const QImage &tile = sheet.paletteTile(i + 1);
+        if (!tile.isNull())
+            buttons_[i]->setIcon(QPixmap::fromImage(tile.scaled(24, 24, Qt::IgnoreAspectRatio, Qt::FastTransformation)));
+    }
+}
+
+} // namespace wayscribe

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QWidget>
+
+#include <array>
+
+class QToolButton;
+
+namespace wayscribe {
+
+class TileSheet;
+
+// The terrain palette `iconselect`: one picture button per terrain, showing
+// the small tile of the current set with the terrain's name.
+class TerrainPalette : public QWidget {
+    Q_OBJECT
+public:
+    explicit TerrainPalette(QWidget *parent = nullptr);
+    void showTiles(const TileSheet &sheet);
+    QToolButton *button(int index) const { return buttons_.at(index); }
+
+private:
+    std::array<QToolButton *, 18> buttons_{};
+};
+
+} // namespace wayscribe
