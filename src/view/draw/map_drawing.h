@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QImage>
+
+namespace wayscribe {
+
+class World;
+struct ProgramState;
+class TileSheet;
+struct Minimap;
+
+// A block of sectors: the first is (firstX, firstY); parts outside the world
+// are left alone.
+struct SectorArea {
+    int firstX = 1;
+    int firstY = 1;
+    int cols = 0;
+    int rows = 0;
+};
+
+// The format the map is drawn in: a picture in another format is converted
+// before drawing.
+inline constexpr QImage::Format kMapPictureFormat = QImage::Format_RGB32;
+
+// Draws every sector of the area as 16 x 16 logical pixels, the first at the
+// picture's top-left pixel: terrain tile, road lines, note marker (dungeon and
+// special icons with the Extra option of `state`) and the footprints of the
+// movement path. The map view and the command line's render both draw here.
+void drawSectors(QImage &picture, const World &world, const ProgramState &state, const TileSheet &sheet,
+                 const SectorArea &area);
+
+// The visible part of the map (ViewLeft, ViewTop, ViewCols, ViewRows) and the
+// two border lines along its top and left.
+void drawMap(QImage &picture, const World &world, const ProgramState &state, const TileSheet &sheet);
+
+// The redraw every change of the map or the view asks for: draws nothing
+// unless FullRedraw is 1; otherwise the map and then the minimap. Returns
+// whether it drew, so that the caller knows to show the pictures again.
+bool Refresh_Map(QImage &picture, Minimap &minimap, const World &world, const ProgramState &state,
+                 const TileSheet &sheet);
+
+} // namespace wayscribe
