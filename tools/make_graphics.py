@@ -8,12 +8,16 @@ from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
-from graphics import set_kjc1  # noqa: E402
+from graphics import banner, markers, set_kjc1, set_kjc2, set_questor, set_tolma, toolbar  # noqa: E402
 from graphics.bmp import encode_bmp  # noqa: E402
+from graphics.gif import encode_gif, quantize  # noqa: E402
 from graphics.terrains import STEMS  # noqa: E402
 
 TILE_SETS = {
     "kjc_set1": set_kjc1,
+    "kjc_set2": set_kjc2,
+    "questor_set": set_questor,
+    "tolma_set": set_tolma,
 }
 
 
@@ -30,8 +34,27 @@ def tile_files():
     return files
 
 
+def gif(picture):
+    return encode_gif(picture.width, picture.height, quantize(picture.px))
+
+
+def marker_files():
+    image, mask = markers.note_pictures()
+    files = {"note.gif": gif(image), "note_m.gif": gif(mask)}
+    files["dungeon.gif"] = gif(markers.dungeon())
+    files["special.gif"] = gif(markers.special())
+    for name in markers.FOOT_COLOURS:
+        files[name + ".gif"] = gif(markers.footprint(name))
+    return files
+
+
 def all_files():
-    return tile_files()
+    files = tile_files()
+    files.update(marker_files())
+    for name, draw in toolbar.BUTTONS.items():
+        files[name + ".gif"] = gif(draw())
+    files["wayscribe.gif"] = gif(banner.about_picture())
+    return files
 
 
 def main():

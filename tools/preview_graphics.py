@@ -12,8 +12,9 @@ from pathlib import Path
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
 from graphics.bmp import decode_bmp  # noqa: E402
-from graphics.canvas import Canvas, line_points  # noqa: E402
+from graphics.canvas import Canvas  # noqa: E402
 from graphics.gif import decode_gif  # noqa: E402
+from graphics.mapdraw import draw_map, terrain_from_letters  # noqa: E402
 from graphics.pixelfont import draw_text  # noqa: E402
 from graphics.png import encode_png  # noqa: E402
 from graphics.terrains import MINIMAP_COLOURS, STEMS, TERRAINS  # noqa: E402
@@ -53,61 +54,15 @@ def load(path):
 
 
 def draw_landscape(tiles, markers):
-    cols, rows = len(LANDSCAPE[0]), len(LANDSCAPE)
-    terrain = {(x + 1, y + 1): LETTERS.index(ch) + 1 for y, row in enumerate(LANDSCAPE) for x, ch in enumerate(row)}
     marks = {}
     for p in PATH:
         marks[p] = marks.get(p, 0) + 1
-    c = Canvas(cols * 16, rows * 16)
-    black = (0, 0, 0)
-
-    def line(a, b):
-        # Lines on the original platform leave out their last pixel.
-        for x, y in line_points(a[0], a[1], b[0], b[1])[:-1]:
-            c.set(x, y, black)
-
-    for y in range(1, rows + 1):
-        for x in range(1, cols + 1):
-            t = terrain[(x, y)]
-            px, py = (x - 1) * 16, (y - 1) * 16
-            c.blit(tiles[STEMS[t - 1]], px, py)
-            if t == 15:
-                cx, cy = px + 7, py + 7
-                c.set(cx, cy, black)
-                for dx, dy, a, b in (
-                    (-1, 0, (px, py + 8), (cx, cy)),
-                    (1, 0, (cx, cy), (px + 16, py + 8)),
-                    (0, -1, (px + 8, py), (cx, cy)),
-                    (0, 1, (cx, cy), (px + 8, py + 16)),
-                    (-1, -1, (cx, cy), (px + 1, py)),
-                    (1, -1, (cx, cy), (px + 16, py)),
-                    (-1, 1, (cx, cy), (px, py + 16)),
-                    (1, 1, (cx, cy), (px + 16, py + 15)),
-                ):
-                    if 15 <= terrain.get((x + dx, y + dy), 0) <= 18:
-                        line(a, b)
-            note = NOTES.get((x, y), "")
-            if note.strip() and not 16 <= t <= 18 and "note" in markers:
-                if note.startswith("DUNGEON:"):
-                    c.blit(markers["dungeon"], px, py)
-                elif note.startswith("SPECIAL:"):
-                    c.blit(markers["special"], px, py)
-                else:
-                    mask, image = markers["note_m"], markers["note"]
-                    for j in range(16):
-                        for i in range(16):
-                            d = c.px[py + j][px + i]
-                            d = tuple(a & b for a, b in zip(d, mask.px[j][i]))
-                            c.px[py + j][px + i] = tuple(a | b for a, b in zip(d, image.px[j][i]))
-            m = marks.get((x, y), 0)
-            if m and "foot" in markers:
-                start = (x, y) == PATH[0]
-                name = ("foot4" if start else "foot3") if m >= 2 else ("foot2" if start else "foot")
-                c.blit(markers[name], px + 4, py + 3)
-    for x in range(cols * 16):
-        c.set(x, 0, black)
-    for y in range(rows * 16):
-        c.set(0, y, black)
+    terrain = terrain_from_letters(LANDSCAPE, LETTERS)
+    c = draw_map(terrain, len(LANDSCAPE[0]), len(LANDSCAPE), tiles, markers, NOTES, marks, PATH[0])
+    for x in range(c.width):
+        c.set(x, 0, (0, 0, 0))
+    for y in range(c.height):
+        c.set(0, y, (0, 0, 0))
     return c
 
 
@@ -145,7 +100,7 @@ def marker_sheet(folder, markers):
             pic = markers[name]
             sheet.rect(x - 1, 7, x + pic.width * 6, 8 + pic.height * 6, (70, 70, 70))
             scaled = pic.scaled(6)
-            sheet.blit(scaled, x, 8, transparent=None)
+            sheet.blit(scaled, x, 8)
             draw_text(sheet, name, x, 112, (255, 255, 255))
             x += pic.width * 6 + 12
     x = 8
@@ -154,9 +109,9 @@ def marker_sheet(folder, markers):
         if path.exists():
             pic = load(path)
             sheet.rect(x, 130, x + pic.width * 3 + 1, 131 + pic.height * 3, (212, 208, 200))
-            sheet.blit(pic.scaled(3), x + 1, 131, transparent=None)
+            sheet.blit(pic.scaled(3), x + 1, 131)
             sheet.rect(x, 210, x + pic.width + 1, 211 + pic.height, (212, 208, 200))
-            sheet.blit(pic, x + 1, 211, transparent=None)
+            sheet.blit(pic, x + 1, 211)
             x += pic.width * 3 + 10
     about = folder / "wayscribe.gif"
     if about.exists():

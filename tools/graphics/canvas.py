@@ -149,10 +149,11 @@ class Canvas:
                 for x in range(int(a + 0.5), int(b + 0.5)):
                     self.set(x, y, colour)
 
-    def stamp(self, rows, colours, x0, y0, outline=None, shadow=None, wrap=False):
+    def stamp(self, rows, colours, x0, y0, outline=None, shadow=None, wrap=False, open_below=False):
         """Draw a character picture with its top-left at (x0, y0). `colours` maps each character to
         a colour or to a function of the colour underneath; characters it lacks are see-through.
-        `outline` rings the picture's pixels (sides only); `shadow` is (dx, dy, colour) drawn first."""
+        `outline` rings the picture's pixels (sides only), leaving out the ring under the picture
+        when `open_below`; `shadow` is (dx, dy, colour) drawn first."""
         solid = [(x0 + i, y0 + j) for j, row in enumerate(rows) for i, ch in enumerate(row) if ch in colours]
         taken = set(solid)
         if shadow is not None:
@@ -164,7 +165,7 @@ class Canvas:
             ring = set()
             for x, y in solid:
                 for nx, ny in ((x - 1, y), (x + 1, y), (x, y - 1), (x, y + 1)):
-                    if (nx, ny) not in taken:
+                    if (nx, ny) not in taken and not (open_below and ny == y + 1):
                         ring.add((nx, ny))
             for x, y in sorted(ring):
                 self.set(x, y, outline, wrap)

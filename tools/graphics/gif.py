@@ -5,13 +5,18 @@ import struct
 MAX_CODES = 4096
 
 
-def _palette(pixels, transparent):
-    """Colours in order of first appearance; the transparent colour, when given, always gets an entry."""
+# Colour stored for see-through pixels: the face of a classic button, so that a reader that
+# ignores transparency still shows something calm.
+TRANSPARENT_KEY = (212, 208, 200)
+
+
+def _palette(pixels):
+    """Colours in order of first appearance; see-through pixels (None) take entry 0."""
     colours = []
     index = {}
-    if transparent is not None:
-        index[transparent] = 0
-        colours.append(transparent)
+    if any(c is None for row in pixels for c in row):
+        index[None] = 0
+        colours.append(TRANSPARENT_KEY)
     for row in pixels:
         for c in row:
             if c not in index:
@@ -77,10 +82,9 @@ def lzw_encode(indices, min_code_size):
     return out.flush()
 
 
-def encode_gif(width, height, pixels, transparent=None):
-    """Return the bytes of a GIF; pixels is a list of rows of (r, g, b); pixels of the colour
-    `transparent` become see-through."""
-    colours, index = _palette(pixels, transparent)
+def encode_gif(width, height, pixels):
+    """Return the bytes of a GIF; pixels is a list of rows of (r, g, b), or None for see-through."""
+    colours, index = _palette(pixels)
     table_bits = 1
     while (1 << table_bits) < len(colours):
         table_bits += 1
@@ -89,8 +93,8 @@ def encode_gif(width, height, pixels, transparent=None):
     out += struct.pack("<HHBBB", width, height, 0x80 | ((table_bits - 1) << 4) | (table_bits - 1), 0, 0)
     for c in colours:
         out += bytes(c)
-    if transparent is not None:
-        out += struct.pack("<BBBBHBB", 0x21, 0xF9, 4, 0x01, 0, index[transparent], 0)
+    if None in index:
+        out += struct.pack("<BBBBHBB", 0x21, 0xF9, 4, 0x01, 0, index[None], 0)
     out += struct.pack("<BHHHHB", 0x2C, 0, 0, width, height, 0)
     min_code_size = max(2, table_bits)
     data = lzw_encode([index[c] for row in pixels for c in row], min_code_size)
@@ -101,6 +105,46 @@ def encode_gif(width, height, pixels, transparent=None):
         out += chunk
     out += b"\x00\x3B"
     return bytes(out)
+
+
+def quantize(pixels, limit=256):
+    """Reduce a picture to at most `limit` colours by median cut, keeping see-through pixels.
+    Pictures that already fit come back unchanged."""
+    counts = {}
+    for row in pixels:
+        for c in row:
+            if c is not None:
+                counts[c] = counts.get(c, 0) + 1
+    slots = limit - (1 if any(c is None for row in pixels for c in row) else 0)
+    if len(counts) <= slots:
+        return pixels
+    boxes = [sorted(counts)]
+    while len(boxes) < slots:
+        # split the box with the widest colour range, at the median of its pixels
+        def spread(box):
+            return max(max(c[i] for c in box) - min(c[i] for c in box) for i in range(3))
+
+        box = max((b for b in boxes if len(b) > 1), key=spread, default=None)
+        if box is None:
+            break
+        channel = max(range(3), key=lambda i: max(c[i] for c in box) - min(c[i] for c in box))
+        box.sort(key=lambda c: (c[channel], c))
+        total = sum(counts[c] for c in box)
+        run, cut = 0, 1
+        for i, c in enumerate(box[:-1]):
+            run += counts[c]
+            if run * 2 >= total:
+                cut = i + 1
+                break
+        boxes.remove(box)
+        boxes += [box[:cut], box[cut:]]
+    mapping = {}
+    for box in boxes:
+        weight = sum(counts[c] for c in box)
+        mean = tuple(int(round(sum(c[i] * counts[c] for c in box) / weight)) for i in range(3))
+        for c in box:
+            mapping[c] = mean
+    return [[None if c is None else mapping[c] for c in row] for row in pixels]
 
 
 def decode_gif(data):

@@ -105,8 +105,8 @@ HOUSE = art("""
     ..R..
     .RRr.
     RRRrr
-    .WKw.
-    .WKw.
+    WWWww
+    WWKww
 """)
 
 WIDE_HOUSE = art("""
