@@ -42,7 +42,7 @@ LANDSCAPE = [
     "WWWJJffHHOBBDDDDDDDDDDBB",
 ]
 NOTES = {(6, 8): "a note", (20, 2): "a note", (22, 8): "DUNGEON: Caves", (15, 12): "SPECIAL: Oasis"}
-PATH = [(13, 4), (12, 5), (11, 6), (10, 7), (11, 7), (12, 7), (13, 8), (12, 7), (12, 8)]
+PATH = [(14, 5), (13, 6), (12, 7), (13, 8), (14, 8), (15, 8), (14, 8), (13, 7), (14, 6), (14, 5)]
 
 
 def load(path):

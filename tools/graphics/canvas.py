@@ -26,10 +26,6 @@ def darken(c, t):
     return mix(c, BLACK, t)
 
 
-def scale(c, f):
-    return tuple(clamp(v * f) for v in c)
-
-
 def hash01(x, y, seed):
     """A repeatable pseudo-random number in [0, 1) for a lattice point."""
     h = (x * 374761393 + y * 668265263 + seed * 2147483647) & 0xFFFFFFFF
@@ -127,13 +123,6 @@ class Canvas:
         for x, y in line_points(x0, y0, x1, y1):
             self.set(x, y, colour, wrap)
 
-    def ellipse(self, cx, cy, rx, ry, colour):
-        """Fill the ellipse centred on (cx, cy); centres and radii may be halves."""
-        for y in range(int(cy - ry) - 1, int(cy + ry) + 2):
-            for x in range(int(cx - rx) - 1, int(cx + rx) + 2):
-                if ((x - cx) / rx) ** 2 + ((y - cy) / ry) ** 2 <= 1.0:
-                    self.set(x, y, colour)
-
     def polygon(self, points, colour):
         """Fill a polygon by pixel centres (even-odd rule)."""
         ys = [p[1] for p in points]
@@ -180,11 +169,6 @@ class Canvas:
                 c = other.px[y][x]
                 if c != transparent:
                     self.set(x0 + x, y0 + y, c)
-
-    def copy(self):
-        c = Canvas(self.width, self.height)
-        c.px = [row[:] for row in self.px]
-        return c
 
     def scaled(self, factor):
         c = Canvas(self.width * factor, self.height * factor)

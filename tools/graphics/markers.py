@@ -31,7 +31,7 @@ NOTE_COLOURS = {
     "r": (196, 30, 30),
     "R": (255, 132, 120),
 }
-NOTE_AT = (4, 0)
+NOTE_AT = (3, 0)
 
 # A shoe print, sole over heel, inside a dark rim (K); drawn at (4, 3) inside a tile.
 FOOT = art("""

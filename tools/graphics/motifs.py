@@ -35,15 +35,6 @@ PINE = art("""
     ..T..
 """)
 
-SMALL_PINE = art("""
-    .L.
-    .LD
-    LMD
-    .MD
-    LMD
-    .T.
-""")
-
 PALM = art("""
     .LL.MD.
     L..LMDD
@@ -64,12 +55,6 @@ BUSH = art("""
 TUFT = art("""
     L.D
     LDL
-""")
-
-TUFT_WIDE = art("""
-    .L.D.
-    L.LD.
-    .LDLD
 """)
 
 # Stone: H highlight, M mid, D shade.
@@ -109,23 +94,7 @@ HOUSE = art("""
     WWKww
 """)
 
-WIDE_HOUSE = art("""
-    .RRRr..
-    RRRRrr.
-    WWKWWw.
-    WWKWWw.
-""")
-
 # Stone: S lit stone, s shaded stone, K openings, R/r roof, F flag.
-TOWER = art("""
-    .R.
-    RRr
-    SKs
-    SSs
-    SKs
-    SSs
-""")
-
 TOWN = art("""
     ................
     .......F........
