@@ -1,0 +1,58 @@
+// render: the whole world as the map view draws it, in one picture file.
+#include "cli/command_registry.h"
+#include "cli/executable_folder.h"
+
+#include "model/program_state.h"
+#include "model/world.h"
+#include "storage/map_file.h"
+#include "view/draw/map_drawing.h"
+#include "view/draw/tile_sheet.h"
+
+#include <QFile>
+#include <QImage>
+
+#include <memory>
+
+namespace wayscribe::cli {
+
+static int runRender(const Args &args, std::ostream &, std::ostream &err)
+{
+    ParsedArgs p;
+    if (!parseArgs(args, {"--out", "--set", "--graphics"}, p, err) || p.positional.size() != 1 ||
+        !p.option("--out"))
+        return kUsageError;
+    const std::string &out = *p.option("--out");
+    ProgramState state; // Extra on, no movement path: what a freshly opened map shows
+    if (const std::string *set = p.option("--set"))
+        state.options.graphicsSetName = *set;
+    const std::string graphics =
+        p.option("--graphics") ? *p.option("--graphics") : executableFolder() + "/graphics";
+
+    auto world = std::make_unique<World>();
+    const MapReadResult read = readMapFile(p.positional[0], *world, state.gameNumber);
+    if (!read.ok) {
+        err << "wayscribe-cli: cannot read map " << read.error.describe() << '\n';
+        return kInputError;
+    }
+    TileSheet sheet;
+    for (const std::string &error :
+         {sheet.loadTileSet(graphics, state.options.graphicsSetName), sheet.loadMarkers(graphics)})
+        if (!error.empty()) {
+            err << "wayscribe-cli: " << error << '\n';
+            return kInputError;
+        }
+
+    const int side = kMapSize * TileSheet::kTileSize;
+    QImage picture(side, side, kMapPictureFormat);
+    drawSectors(picture, *world, state, sheet, {1, 1, kMapSize, kMapSize});
+    if (!picture.save(QFile::decodeName(out.c_str()), "PNG")) {
+        err << "wayscribe-cli: cannot write picture " << out << '\n';
+        return kInputError;
+    }
+    return kOk;
+}
+
+const CommandRegistration renderCommand("render", "render MAP --out PNG [--set NAME] [--graphics DIR]",
+                                        runRender);
+
+} // namespace wayscribe::cli
