@@ -1,0 +1,40 @@
+// route: the travel agency's search from the command line.
+#include "cli/cli_platform.h"
+#include "cli/command_registry.h"
+
+#include "model/program_state.h"
+#include "model/world.h"
+#include "storage/map_file.h"
+#include "travel/route_finder.h"
+
+#include <memory>
+
+namespace wayscribe::cli {
+
+// FROM and TO are the texts of the window's two boxes, such as "Oakvale (12)".
+static int runRoute(const Args &args, std::ostream &out, std::ostream &err)
+{
+    // The window ignores a click while a box is empty; here that is a usage error.
+    if (args.size() != 3 || args[1].empty() || args[2].empty())
+        return kUsageError;
+    auto world = std::make_unique<World>();
+    std::uint8_t game = 0;
+    const MapReadResult r = readMapFile(args[0], *world, game);
+    if (!r.ok) {
+        err << "wayscribe-cli: cannot read map " << r.error.describe() << '\n';
+        return kInputError;
+    }
+    ProgramState state;
+    CliPlatform platform(err);
+    const std::optional<std::string> text = findRoutes(*world, state, platform, args[1], args[2]);
+    if (!text)
+        return kInputError; // a malformed box: the message is on standard error
+    writeWithUnixLineEnds(out, *text);
+    if (text->empty() || text->back() != '\n')
+        out << '\n';
+    return kOk;
+}
+
+const CommandRegistration routeCommand("route", "route MAP FROM TO", runRoute);
+
+} // namespace wayscribe::cli

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "travel/route_search.h"
+
+#include <optional>
+#include <string>
+
+namespace wayscribe {
+
+class World;
+struct ProgramState;
+class Platform;
+
+// The most journeys a written route holds.
+inline constexpr int kMaxRouteHops = 149;
+
+// The travel agency: finds the cheapest and then the shortest chain of
+// journeys between the settlements named in the two boxes (texts such as
+// "Oakvale (12)"; only the number in parentheses counts) and returns the
+// whole text of the result box, lines ended by CR LF. Returns nothing, and
+// the result box keeps its text, when a box is empty or malformed (the
+// person is told about the malformed one). FileBusy is set while it runs.
+std::optional<std::string> findRoutes(const World &world, ProgramState &state, Platform &platform,
+                                      const std::string &fromText, const std::string &toText);
+
+// The same with another implementation of the search run, for comparing it
+// with a reference.
+std::optional<std::string> findRoutesWith(RouteSearchFunction search, const World &world, ProgramState &state,
+                                          Platform &platform, const std::string &fromText,
+                                          const std::string &toText);
+
+} // namespace wayscribe
