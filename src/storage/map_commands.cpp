@@ -60,9 +60,11 @@ bool Load_Map(World &world, ProgramState &state, Platform &platform, const std::
         // The model now mixes the old map with the part of the file that
         // could be read: keep it marked as changed so that nothing is
         // discarded without a question.
-        state.mapChanged = result.error.line > 1 ? 1 : state.mapChanged;
-        platform.message("The map file could not be read completely. Everything up to the broken line has "
-                         "been loaded; the rest of the map is as it was.",
+        const bool partlyRead = result.error.line > 2;
+        state.mapChanged = partlyRead ? 1 : state.mapChanged;
+        platform.message(partlyRead ? "The map file could not be read completely. Everything up to the broken "
+                                      "line has been loaded; the rest of the map is as it was."
+                                    : "The map file could not be read. The map is as it was.",
                          kProgramTitle, MessageButtons::Ok, MessageIcon::Exclamation, result.error.describe());
         platform.redrawMap();
         return false;

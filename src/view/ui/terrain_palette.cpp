@@ -37,8 +37,13 @@ void TerrainPalette::showTiles(const TileSheet &sheet)
 {
     for (int i = 0; i < 18; ++i) {
         const QImage &tile = sheet.paletteTile(i + 1);
-        if (!tile.isNull())
-            buttons_[i]->setIcon(QPixmap::fromImage(tile.scaled(24, 24, Qt::IgnoreAspectRatio, Qt::FastTransformation)));
+        if (tile.isNull())
+            continue;
+        // The tiles keep their colours also while painting is not available.
+        const QPixmap pixmap = QPixmap::fromImage(tile.scaled(24, 24, Qt::IgnoreAspectRatio, Qt::FastTransformation));
+        QIcon icon(pixmap);
+        icon.addPixmap(pixmap, QIcon::Disabled);
+        buttons_[i]->setIcon(icon);
     }
 }
 
