@@ -1,7 +1,7 @@
 """Shapes shared by the tile sets: the character pictures of trees, houses and reeds, and the
 drawn shapes of peaks, humps, dunes and waves. Each set brings its own colours and finish."""
 
-from .canvas import art, fbm, hash01, mix
+from .canvas import art, fbm, mix
 
 # Canopy keys: L light, M mid, D dark; T trunk. Light comes from the upper left.
 TREE = art("""
@@ -36,13 +36,14 @@ PINE = art("""
 """)
 
 PALM = art("""
-    .LL.MD.
-    L..LMDD
-    ..LTM.D
-    .L.T..D
-    ...T...
-    ...T...
-    ..TT...
+    ..LLMM..
+    .LLLMMD.
+    LL.LMDDD
+    L.LTTM.D
+    ..L.T.D.
+    ....T...
+    ....T...
+    ...TT...
 """)
 
 BUSH = art("""

@@ -86,8 +86,8 @@ def hforest():
     c = Canvas(S, S)
     m.textured(c, (20, 52, 28), (30, 66, 36), (12, 36, 20), seed=71)
     pine = {"L": (58, 128, 66), "M": (32, 96, 50), "D": (16, 64, 36), "T": (74, 52, 30)}
-    places = [(0, 0), (5, -1), (10, 0), (2, 5), (8, 4), (12, 6), (-1, 9), (5, 9), (10, 10)]
-    m.stamps(c, m.PINE, pine, [p for p in places if p[0] >= 0 and p[1] >= 0], shadow=(1, 1, _shadow(0.45)))
+    places = [(0, 0), (10, 0), (2, 5), (8, 4), (12, 6), (5, 9), (10, 10)]
+    m.stamps(c, m.PINE, pine, places, shadow=(1, 1, _shadow(0.45)))
     return c
 
 
