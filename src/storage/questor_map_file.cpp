@@ -87,7 +87,7 @@ class TokenReader {
         }
         if (t >= 5000) {
             if (expectShopName_) {
-                world_.setShopName(settlement_, shop_, formatPlain(t - 5000));
+                currentShop().name = formatPlain(t - 5000);
                 expectShopName_ = false;
             }
             if (t >= 5001 && expectItemName_) {
@@ -104,7 +104,7 @@ class TokenReader {
             if (!checkItem(reason))
                 return false;
             expectItemName_ = true;
-            world_.setItem(settlement_, shop_, item_, ItemField::Number, formatPlain(t));
+            currentShop().item(item_, ItemField::Number) = formatPlain(t);
             if (t >= kSpecialItemFirst && t <= kSpecialItemLast)
                 ++counts_.specialItems;
             return true;
@@ -112,7 +112,7 @@ class TokenReader {
         if (t == 0) {
             if (!checkItem(reason))
                 return false;
-            world_.setItem(settlement_, shop_, item_, ItemField::Number, "");
+            currentShop().item(item_, ItemField::Number).clear();
             return true;
         }
         if (t < 0) {
@@ -121,13 +121,35 @@ class TokenReader {
             // The one number of the import written with a blank before it.
             std::string price(1, ' ');
             price += formatPlain(-t);
-            world_.setItem(settlement_, shop_, item_, ItemField::Price, price);
+            currentShop().item(item_, ItemField::Price) = price;
             ++item_;
         }
         return true;
     }
 
+    // Writes the shop being filled back to the model.
+    void flush()
+    {
+        if (buffered_)
+            world_.setShop(bufferedSettlement_, bufferedShop_, shopTexts_);
+        buffered_ = false;
+    }
+
   private:
+    // The shop the tokens write to, unpacked once while its tokens last
+    // instead of repacked for every text.
+    ShopTexts &currentShop()
+    {
+        if (!buffered_ || bufferedSettlement_ != settlement_ || bufferedShop_ != shop_) {
+            flush();
+            shopTexts_ = world_.shop(settlement_, shop_);
+            bufferedSettlement_ = settlement_;
+            bufferedShop_ = shop_;
+            buffered_ = true;
+        }
+        return shopTexts_;
+    }
+
     bool placeSettlement(int n, std::string &reason)
     {
         if (n > kMaxSettlements) {
@@ -155,7 +177,7 @@ class TokenReader {
     {
         shop_ = shop;
         // A placeholder until the shop's name index arrives.
-        world_.setShopName(settlement_, shop_, "a");
+        currentShop().name.assign(1, 'a');
         ++counts_.shops;
         item_ = 1;
         expectShopName_ = true;
@@ -186,6 +208,10 @@ class TokenReader {
     int item_ = 0;
     bool expectShopName_ = false;
     bool expectItemName_ = false;
+    ShopTexts shopTexts_;
+    bool buffered_ = false;
+    int bufferedSettlement_ = 0;
+    int bufferedShop_ = 0;
 };
 
 // Terrain runs, column by column; a run may go on into the next column.
@@ -263,20 +289,22 @@ bool readQuestorMapFile(const std::string &path, World &world, Platform &platfor
         }
     }
     TokenReader tokens(world, platform, counts);
+    bool ok = true;
     int t;
-    while (in.next(t)) {
+    while (ok && in.next(t)) {
         platform.processEvents();
-        if (!tokens.apply(t, error.reason)) {
+        ok = tokens.apply(t, error.reason);
+        if (!ok)
             error.place = byteOffset(in.lastOffset());
-            return false;
-        }
     }
-    if (!in.atEnd()) {
+    if (ok && !in.atEnd()) {
+        ok = false;
         error.place = byteOffset(in.nextOffset());
         error.reason = "the file ends in the middle of a value";
-        return false;
     }
-    return true;
+    // What was read before a break stays.
+    tokens.flush();
+    return ok;
 }
 
 } // namespace wayscribe

@@ -10,7 +10,8 @@
 #include <cmath>
 #include <cstdint>
 #include <deque>
-#include <limits>
+#include <map>
+#include <set>
 #include <unordered_map>
 #include <vector>
 
@@ -143,30 +144,31 @@ bool readSettlementNames(NamesInput &in, World &world, int count)
 }
 
 // Each name goes to the first shop whose name reads as its number. The
-// values of all shop names are worked out once and kept up to date, so a
-// large map does not read every name again for every shop.
+// shops are filed once by the whole number their names read as, in the order
+// of the search, and refiled as they are renamed, so a large map does not
+// read every shop name again for every name.
 bool readShopNames(NamesInput &in, World &world, int count)
 {
-    constexpr double kNoShop = std::numeric_limits<double>::quiet_NaN();
-    const auto at = [](int s, int shop) { return (s - 1) * kQuestorLastShop + (shop - 1); };
-    std::vector<double> values(kMaxSettlements * kQuestorLastShop);
+    std::map<double, std::set<int>> shopsByValue; // place: (settlement - 1) * 99 + shop - 1
+    const auto file = [&shopsByValue](std::string_view name, int place) {
+        const double value = textValue(name);
+        if (!name.empty() && value >= 1 && value == std::floor(value))
+            shopsByValue[value].insert(place);
+    };
     for (int s = 1; s <= kMaxSettlements; ++s)
-        for (int shop = 1; shop <= kQuestorLastShop; ++shop) {
-            const std::string_view name = world.shopName(s, shop);
-            values[at(s, shop)] = name.empty() ? kNoShop : textValue(name);
-        }
+        for (int shop = 1; shop <= kQuestorLastShop; ++shop)
+            file(world.shopName(s, shop), (s - 1) * kQuestorLastShop + shop - 1);
     std::string name;
     for (int j = 1; j <= count; ++j) {
         if (!in.read(name, "shop names"))
             return false;
-        for (std::size_t k = 0; k < values.size(); ++k)
-            if (values[k] == j) {
-                const int s = static_cast<int>(k) / kQuestorLastShop + 1;
-                const int shop = static_cast<int>(k) % kQuestorLastShop + 1;
-                world.setShopName(s, shop, name);
-                values[k] = name.empty() ? kNoShop : textValue(name);
-                break;
-            }
+        const auto found = shopsByValue.find(j);
+        if (found == shopsByValue.end() || found->second.empty())
+            continue;
+        const int place = *found->second.begin();
+        found->second.erase(found->second.begin());
+        world.setShopName(place / kQuestorLastShop + 1, place % kQuestorLastShop + 1, name);
+        file(name, place);
     }
     return true;
 }
