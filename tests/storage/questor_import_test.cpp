@@ -207,5 +207,39 @@ TEST_F(QuestorImportTest, SettlementsOver160AreWarnedAboutAndShareTheLastNumber)
     EXPECT_EQ(item(160, 25, 1, ItemField::Name), "Dagger");
 }
 
+// A small map kept with the tests, so that the reader cannot drift from the
+// format together with the test writer.
+TEST_F(QuestorImportTest, TheKeptSampleMapImportsAsItWasWritten)
+{
+    const QuestorImportResult result =
+        readQuestorMap(std::string(WAYSCRIBE_TEST_DATA) + "/questor/sample.mp1", *world, state, platform);
+    ASSERT_TRUE(result.ok) << result.error.describe();
+
+    EXPECT_EQ(world->sector(1, 50).terrain, 2);
+    EXPECT_EQ(world->sector(1, 51).terrain, 4);
+    EXPECT_EQ(world->sector(1, 151).terrain, 15);
+    EXPECT_EQ(world->sector(2, 60).terrain, 6);
+    EXPECT_EQ(world->sector(2, 61).terrain, 19);
+    EXPECT_EQ(world->sector(2, 62).terrain, 1);
+    EXPECT_EQ(world->sector(2, 61).note, "SPECIAL: old ruins");
+
+    EXPECT_EQ(world->sector(1, 120).settlementNumber, 12);
+    EXPECT_EQ(world->sector(1, 120).settlementName, "Saltmere");
+    EXPECT_EQ(world->sector(1, 120).note, "Harbour town");
+    EXPECT_EQ(world->sector(2, 30).settlementName, "Brackenford");
+    EXPECT_EQ(world->settlement(75).x, 2);
+
+    EXPECT_EQ(shopName(12, 20), "Weaponsmith");
+    EXPECT_EQ(shopName(12, 21), "Tavern");
+    EXPECT_EQ(shopName(75, 20), "Market");
+    EXPECT_EQ(item(12, 20, 2, ItemField::Name), "Long Sword");
+    EXPECT_EQ(item(12, 20, 3, ItemField::Name), "Crown of the Tides");
+    EXPECT_EQ(item(12, 20, 3, ItemField::Price), " 900");
+    EXPECT_EQ(item(12, 21, 1, ItemField::Name), "Ale");
+    EXPECT_EQ(item(75, 20, 1, ItemField::Name), "Short Sword");
+    EXPECT_EQ(item(75, 20, 2, ItemField::Number), "");
+    EXPECT_EQ(item(75, 20, 2, ItemField::Price), " 3");
+}
+
 } // namespace
 } // namespace wayscribe
