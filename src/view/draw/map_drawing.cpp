@@ -4,7 +4,7 @@
 #include "model/terrain.h"
 #include "model/world.h"
 #include "view/draw/minimap_drawing.h"
-#include "view/draw/pixel_line.h"
+#include "view/draw/pixel_canvas.h"
 #include "view/draw/road_lines.h"
 #include "view/draw/tile_sheet.h"
 #include "view/sector_markers.h"
@@ -68,13 +68,15 @@ void drawFootprint(QPainter &painter, const TileSheet &sheet, int picture, QPoin
     painter.setCompositionMode(QPainter::CompositionMode_Source);
 }
 
-void drawSector(QPainter &painter, const World &world, const ProgramState &state, const TileSheet &sheet,
-                int x, int y, QPoint at)
+// Everything a sector draws stays inside its tile except the footprint, and a
+// footprint that reaches past its tile is covered by the next tiles' terrain.
+void drawSector(QPainter &painter, PixelCanvas &canvas, const World &world, const ProgramState &state,
+                const TileSheet &sheet, int x, int y, QPoint at)
 {
     const Sector &sector = world.sector(x, y);
     drawTerrain(painter, sheet, sector.terrain, at);
     if (sector.terrain == kRoad)
-        drawRoadLines(painter, world, x, y, at);
+        drawRoadLines(canvas, world, x, y, at);
     drawNoteMarker(painter, sheet, noteMarkerFor(sector, state.options.extra), at);
     const bool start = x == state.pathX[0] && y == state.pathY[0];
     drawFootprint(painter, sheet, footprintPicture(sector.moveMark, start), at);
@@ -89,16 +91,15 @@ bool prepare(QImage &picture)
     return true;
 }
 
-void drawSectors(QPainter &painter, const World &world, const ProgramState &state, const TileSheet &sheet,
-                 const SectorArea &area)
+void drawSectors(QPainter &painter, PixelCanvas &canvas, const World &world, const ProgramState &state,
+                 const TileSheet &sheet, const SectorArea &area)
 {
-    painter.setPen(QPen(Qt::black, 1));
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     const int lastY = std::min(area.firstY + area.rows - 1, kMapSize);
     const int lastX = std::min(area.firstX + area.cols - 1, kMapSize);
     for (int y = std::max(area.firstY, 1); y <= lastY; ++y)
         for (int x = std::max(area.firstX, 1); x <= lastX; ++x)
-            drawSector(painter, world, state, sheet, x, y,
+            drawSector(painter, canvas, world, state, sheet, x, y,
                        QPoint((x - area.firstX) * kTile, (y - area.firstY) * kTile));
 }
 
@@ -109,19 +110,22 @@ void drawSectors(QImage &picture, const World &world, const ProgramState &state,
 {
     if (!prepare(picture))
         return;
+    PixelCanvas canvas(picture);
     QPainter painter(&picture);
-    drawSectors(painter, world, state, sheet, area);
+    drawSectors(painter, canvas, world, state, sheet, area);
 }
 
 void drawMap(QImage &picture, const World &world, const ProgramState &state, const TileSheet &sheet)
 {
     if (!prepare(picture))
         return;
+    PixelCanvas canvas(picture);
     QPainter painter(&picture);
-    drawSectors(painter, world, state, sheet,
+    drawSectors(painter, canvas, world, state, sheet,
                 {state.viewLeft + 1, state.viewTop + 1, state.viewCols, state.viewRows});
-    drawPixelLine(painter, QPoint(0, 0), QPoint(state.viewCols * kTile - 1, 0));
-    drawPixelLine(painter, QPoint(0, 0), QPoint(0, state.viewRows * kTile - 1));
+    const QRgb black = qRgb(0, 0, 0);
+    canvas.drawLine(QPoint(0, 0), QPoint(state.viewCols * kTile - 1, 0), black);
+    canvas.drawLine(QPoint(0, 0), QPoint(0, state.viewRows * kTile - 1), black);
 }
 
 bool Refresh_Map(QImage &picture, Minimap &minimap, const World &world, const ProgramState &state,

@@ -2,10 +2,8 @@
 
 #include "model/program_state.h"
 #include "model/world.h"
-#include "view/draw/pixel_line.h"
+#include "view/draw/pixel_canvas.h"
 #include "view/minimap_geometry.h"
-
-#include <QPainter>
 
 #include <array>
 #include <optional>
@@ -68,12 +66,12 @@ void Refresh_MiniMap(Minimap &minimap, const World &world, const ProgramState &s
         }
     }
     const MinimapViewRect r = minimapViewRect(state);
-    QPainter painter(&minimap.image);
-    painter.setPen(QPen(Qt::white, 1));
-    drawPixelLine(painter, {r.left, r.top}, {r.left + r.width, r.top});
-    drawPixelLine(painter, {r.left, r.top + r.height}, {r.left + r.width, r.top + r.height});
-    drawPixelLine(painter, {r.left, r.top}, {r.left, r.top + r.height});
-    drawPixelLine(painter, {r.left + r.width, r.top}, {r.left + r.width, r.top + r.height + 1});
+    PixelCanvas canvas(minimap.image);
+    const QRgb white = qRgb(255, 255, 255);
+    canvas.drawLine({r.left, r.top}, {r.left + r.width, r.top}, white);
+    canvas.drawLine({r.left, r.top + r.height}, {r.left + r.width, r.top + r.height}, white);
+    canvas.drawLine({r.left, r.top}, {r.left, r.top + r.height}, white);
+    canvas.drawLine({r.left + r.width, r.top}, {r.left + r.width, r.top + r.height + 1}, white);
 }
 
 void recolourMinimapSector(Minimap &minimap, const World &world, int x, int y)

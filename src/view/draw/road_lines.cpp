@@ -2,10 +2,10 @@
 
 #include "model/terrain.h"
 #include "model/world.h"
-#include "view/draw/pixel_line.h"
+#include "view/draw/map_drawing.h"
+#include "view/draw/pixel_canvas.h"
 
 #include <QImage>
-#include <QPainter>
 
 #include <array>
 
@@ -15,6 +15,7 @@ namespace {
 
 constexpr int kTile = 16;
 constexpr QPoint kCentre(7, 7);
+constexpr QRgb kRoadColour = 0xff000000;
 
 // One neighbour direction: the offset to the neighbour and the line toward it,
 // both ends relative to the tile's top-left pixel.
@@ -54,34 +55,35 @@ bool connectsToRoad(int terrain)
     return terrain >= kRoad && terrain <= kCity;
 }
 
-void drawDirection(QPainter &painter, const RoadDirection &d, QPoint tileOrigin)
+void drawDirection(PixelCanvas &canvas, const RoadDirection &d, QPoint tileOrigin)
 {
-    drawPixelLine(painter, tileOrigin + d.from, tileOrigin + d.to);
+    canvas.drawLine(tileOrigin + d.from, tileOrigin + d.to, kRoadColour);
 }
 
 } // namespace
 
-void drawRoadLines(QPainter &painter, const World &world, int x, int y, QPoint tileOrigin)
+void drawRoadLines(PixelCanvas &canvas, const World &world, int x, int y, QPoint tileOrigin)
 {
-    painter.drawPoint(tileOrigin + kCentre);
+    canvas.setPixel(tileOrigin + kCentre, kRoadColour);
     for (const RoadDirection &d : kDirections)
         if (insideWorld(x + d.dx, y + d.dy) && connectsToRoad(world.sector(x + d.dx, y + d.dy).terrain))
-            drawDirection(painter, d, tileOrigin);
+            drawDirection(canvas, d, tileOrigin);
 }
 
 void Draw_Roads(QImage &map, const World &world, int x, int y, int c, int r)
 {
     if (map.isNull() || !insideWorld(x, y))
         return;
-    QPainter painter(&map);
-    painter.setPen(QPen(Qt::black, 1));
+    if (map.format() != kMapPictureFormat)
+        map.convertTo(kMapPictureFormat);
+    PixelCanvas canvas(map);
     const QPoint origin((c - 1) * kTile, (r - 1) * kTile);
-    drawRoadLines(painter, world, x, y, origin);
+    drawRoadLines(canvas, world, x, y, origin);
     // Each line lies inside its own tile, so the neighbours' lines back toward
     // this sector can be drawn after all of this sector's own.
     for (const RoadDirection &d : kDirections)
         if (insideWorld(x + d.dx, y + d.dy) && world.sector(x + d.dx, y + d.dy).terrain == kRoad)
-            drawDirection(painter, opposite(d), origin + QPoint(d.dx * kTile, d.dy * kTile));
+            drawDirection(canvas, opposite(d), origin + QPoint(d.dx * kTile, d.dy * kTile));
 }
 
 } // namespace wayscribe

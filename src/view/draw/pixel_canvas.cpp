@@ -1,21 +1,24 @@
-#include "view/draw/pixel_line.h"
-
-#include <QPainter>
-#include <QVarLengthArray>
+#include "view/draw/pixel_canvas.h"
 
 #include <cstdlib>
 
 namespace wayscribe {
 
-void drawPixelLine(QPainter &painter, QPoint from, QPoint to)
+PixelCanvas::PixelCanvas(QImage &picture)
+    : bits_(picture.bits()), stride_(picture.bytesPerLine()), width_(picture.width()),
+      height_(picture.height())
 {
-    QVarLengthArray<QPoint, 64> points;
+    Q_ASSERT(picture.format() == QImage::Format_RGB32 || picture.isNull());
+}
+
+void PixelCanvas::drawLine(QPoint from, QPoint to, QRgb colour)
+{
     int x = from.x(), y = from.y();
     const int dx = std::abs(to.x() - x), stepX = x < to.x() ? 1 : -1;
     const int dy = -std::abs(to.y() - y), stepY = y < to.y() ? 1 : -1;
     int error = dx + dy;
     while (x != to.x() || y != to.y()) {
-        points.append(QPoint(x, y));
+        setPixel({x, y}, colour);
         const int twice = 2 * error;
         if (twice >= dy) {
             error += dy;
@@ -26,8 +29,6 @@ void drawPixelLine(QPainter &painter, QPoint from, QPoint to)
             y += stepY;
         }
     }
-    if (!points.isEmpty())
-        painter.drawPoints(points.constData(), static_cast<int>(points.size()));
 }
 
 } // namespace wayscribe
