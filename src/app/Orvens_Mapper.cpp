@@ -4,11 +4,14 @@
 #include "app/frmGameNum.h"
 #include "app/frmOptions.h"
 #include "app/qt_text.h"
+#include "import/batch_import.h"
+#include "import/html_import.h"
 #include "model/new_map.h"
 #include "model/program_state.h"
 #include "model/world.h"
 #include "storage/map_commands.h"
 #include "storage/options_file.h"
+#include "storage/questor_import.h"
 #include "view/draw/map_drawing.h"
 #include "view/minimap_geometry.h"
 #include "view/map_tools.h"
@@ -250,8 +253,17 @@ void Orvens_Mapper::syncScrollBars()
     state_.scrollBusy = 0;
 }
 
+void Orvens_Mapper::updateTitle()
+{
+    // The map's file name, and a star while it has unsaved changes.
+    const QString name = state_.mapFileName.empty() ? QString("Untitled")
+                                                    : QFileInfo(toQString(state_.mapFileName)).fileName();
+    setWindowTitle(name + (state_.mapChanged ? "*" : "") + " - Wayscribe");
+}
+
 void Orvens_Mapper::redrawMap()
 {
+    updateTitle();
     syncScrollBars();
     state_.fullRedraw = 1;
     if (Refresh_Map(Picture1->backBuffer(), minimap_, world_, state_, sheet_)) {
@@ -497,17 +509,37 @@ void Orvens_Mapper::cmdSave_Click()
 {
     if (!state_.fileBusy)
         Save_Map(world_, state_, platform_, state_.mapFileName.find_first_of("/\\") == std::string::npos);
+    updateTitle();
 }
 
 void Orvens_Mapper::mnuFileSaveAs_Click()
 {
     if (!state_.fileBusy)
         Save_Map(world_, state_, platform_, true);
+    updateTitle();
 }
 
 void Orvens_Mapper::mnuFileMerge_Click()
 {
     mergeMapCommand(world_, state_, platform_);
+}
+
+void Orvens_Mapper::mnuFileImport_Click()
+{
+    if (!state_.fileBusy)
+        Import_HTML(world_, state_, platform_);
+}
+
+void Orvens_Mapper::mnuFileBatch_Click()
+{
+    if (!state_.fileBusy)
+        batchImportHtml(world_, state_, platform_);
+}
+
+void Orvens_Mapper::mnuFileQuestor_Click()
+{
+    if (!state_.fileBusy)
+        importQuestorCommand(world_, state_, platform_);
 }
 
 void Orvens_Mapper::mnuFileOptions_Click()

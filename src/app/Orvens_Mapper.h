@@ -71,6 +71,7 @@ private:
     void syncScrollBars();
     void showSector(int x, int y);
     void setContentsEnabled(bool enabled);
+    void updateTitle();
 
     // Commands.
     void cmdNew_Click();
@@ -80,6 +81,9 @@ private:
     void cmdSave_Click();
     void mnuFileSaveAs_Click();
     void mnuFileMerge_Click();
+    void mnuFileImport_Click();
+    void mnuFileBatch_Click();
+    void mnuFileQuestor_Click();
     void mnuFileOptions_Click();
     void mnuFileExit_Click();
     void mnuEditGame_Click();

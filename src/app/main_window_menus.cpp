@@ -12,9 +12,9 @@ void Orvens_Mapper::buildMenus()
     QMenu *file = menuBar()->addMenu("File");
     file->setObjectName("mnuFile");
     addMenuItem(file, "mnuFileNew", "&New", &Orvens_Mapper::mnuFileNew_Click);
-    addLaterItem(file, "mnuFileImport", "&Import HTML");
-    addLaterItem(file, "mnuFileBatch", "&Batch Import HTML");
-    addLaterItem(file, "mnuFileQuestor", "Import &QuestOR");
+    addMenuItem(file, "mnuFileImport", "&Import HTML", &Orvens_Mapper::mnuFileImport_Click);
+    addMenuItem(file, "mnuFileBatch", "&Batch Import HTML", &Orvens_Mapper::mnuFileBatch_Click);
+    addMenuItem(file, "mnuFileQuestor", "Import &QuestOR", &Orvens_Mapper::mnuFileQuestor_Click);
     file->addSeparator()->setObjectName("mnuFileSep1");
     addMenuItem(file, "mnuFileOpen", "&Open", &Orvens_Mapper::mnuFileOpen_Click);
     addMenuItem(file, "mnuFileSave", "&Save", &Orvens_Mapper::cmdSave_Click);
