@@ -37,22 +37,3 @@ TEST(MinimapGeometry, ClickCentresTheViewOnThePointWithinTheWorld)
     moveViewToMinimapPoint(state, 99, 0);
     EXPECT_EQ(state.viewLeft, 0);
 }
-
-TEST(MinimapGeometry, ViewRectangleAndEditedPixelAreHalvedAndTruncated)
-{
-    ProgramState state;
-    state.viewLeft = 7;
-    state.viewTop = 9;
-    state.viewCols = 41;
-    state.viewRows = 31;
-    const MinimapViewRect r = minimapViewRect(state);
-    EXPECT_EQ(r.left, 3);
-    EXPECT_EQ(r.top, 4);
-    EXPECT_EQ(r.width, 20);
-    EXPECT_EQ(r.height, 15);
-
-    EXPECT_EQ(minimapPixelOf(1, 2).p, 0);
-    EXPECT_EQ(minimapPixelOf(1, 2).q, 0);
-    EXPECT_EQ(minimapPixelOf(3, 200).p, 1);
-    EXPECT_EQ(minimapPixelOf(3, 200).q, 99);
-}

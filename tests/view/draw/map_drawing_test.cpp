@@ -247,15 +247,4 @@ TEST_F(MapDrawing, CodesWithoutATileShowTheUnknownTileMarked)
     EXPECT_EQ(countIn(3, 2, {0, 0, 16, 6}, kBlack), 0) << "roads do not join them";
 }
 
-TEST_F(MapDrawing, PicturesInAnotherFormatAreConvertedFirst)
-{
-    QImage indexed(32, 32, QImage::Format_Indexed8);
-    indexed.setColorCount(1);
-    indexed.fill(0);
-    setTerrain(2, 1, kMarsh);
-    drawSectors(indexed, *world, state, sheet, {1, 1, 2, 2});
-    EXPECT_EQ(indexed.format(), kMapPictureFormat);
-    EXPECT_EQ(indexed.pixel(20, 5), tileColour(kMarsh));
-}
-
 } // namespace

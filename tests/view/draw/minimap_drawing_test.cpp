@@ -49,6 +49,13 @@ TEST_F(MinimapDrawing, NewMapIsBlackWithTheViewRectangleInTheCorner)
     for (QPoint p : {QPoint(0, 0), QPoint(2, 0), QPoint(0, 2), QPoint(2, 2), QPoint(1, 2), QPoint(2, 1)})
         EXPECT_EQ(minimap.image.pixel(p), kWhite) << p.x() << "," << p.y();
     EXPECT_EQ(minimap.image.pixel(1, 1), kBlack);
+
+    // At the far corner (L = 79, T = 84, W = 20, H = 15) the right side runs to the last row.
+    view(200 - 41, 200 - 31, 41, 31);
+    Refresh_MiniMap(minimap, *world, state);
+    EXPECT_EQ(minimap.image.pixel(79, 84), kWhite);
+    EXPECT_EQ(minimap.image.pixel(99, 99), kWhite);
+    EXPECT_EQ(minimap.image.pixel(98, 99), kWhite);
 }
 
 TEST_F(MinimapDrawing, EachPixelShowsTheLowerRightSectorOfItsBlock)
@@ -88,16 +95,6 @@ TEST_F(MinimapDrawing, SingleEditShowsTheEditedSectorUntilTheNextFullRedraw)
     recolourMinimapSector(minimap, *world, 0, 201); // outside the world: nothing
     Refresh_MiniMap(minimap, *world, state);
     EXPECT_EQ(minimap.image.pixel(0, 0), kBlack);
-}
-
-TEST_F(MinimapDrawing, ViewRectangleAtTheFarCornerStaysInsideThePicture)
-{
-    view(200 - 41, 200 - 31, 41, 31);
-    Refresh_MiniMap(minimap, *world, state);
-    // L = 79, T = 84, W = 20, H = 15: the right side runs to y = 99.
-    EXPECT_EQ(minimap.image.pixel(79, 84), kWhite);
-    EXPECT_EQ(minimap.image.pixel(99, 99), kWhite);
-    EXPECT_EQ(minimap.image.pixel(98, 99), kWhite);
 }
 
 TEST(DrawRoads, JoinsTheNewRoadAndItsRoadNeighboursOnly)

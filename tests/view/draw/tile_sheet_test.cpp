@@ -28,9 +28,7 @@ TEST(TileSheet, PlacesEveryTileAndMarkerAtItsSheetPosition)
     EXPECT_EQ(sheet.loadTileSet(graphics, "kjc_set1"), "");
     EXPECT_EQ(sheet.loadMarkers(graphics), "");
 
-    EXPECT_EQ(TileSheet::entryPosition(1), QPoint(16, 0));
     EXPECT_EQ(TileSheet::entryPosition(18), QPoint(288, 0));
-    EXPECT_EQ(TileSheet::entryPosition(TileSheet::kNoteImage), QPoint(16, 17));
     EXPECT_EQ(TileSheet::entryPosition(TileSheet::kSpecialIcon), QPoint(64, 17));
     for (int code = kFirstTerrain; code <= kLastTerrain; ++code) {
         EXPECT_EQ(entryPixel(sheet, code), tileColour(code)) << code;
@@ -83,12 +81,4 @@ TEST(TileSheet, SetIsAvailableWhenItsBarrenTileExists)
     EXPECT_TRUE(tileSetAvailable(graphics, "questor_set"));
     std::filesystem::create_directories(graphics + "/tolma_set/l_barren.bmp");
     EXPECT_FALSE(tileSetAvailable(graphics, "tolma_set")) << "a folder is no picture";
-}
-
-TEST(TileFiles, NamesAreTheTerrainNamesInLowerCase)
-{
-    EXPECT_EQ(tileFileName(kUnknown, TileSize::Large), "l_unknown.bmp");
-    EXPECT_EQ(tileFileName(kHeavyForest, TileSize::Large), "l_hforest.bmp");
-    EXPECT_EQ(tileFileName(kHeavyForest, TileSize::Small), "s_hforest.bmp");
-    EXPECT_EQ(tileFileName(kCity, TileSize::Small), "s_city.bmp");
 }
