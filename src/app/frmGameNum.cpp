@@ -6,7 +6,7 @@
 
 #include <QCloseEvent>
 #include <QDialogButtonBox>
-#include <QIntValidator>
+#include <QRegularExpressionValidator>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -24,7 +24,8 @@ frmGameNum::frmGameNum(ProgramState &state, QWidget *mainWindow) : QWidget(mainW
     txtGameNum = new QLineEdit(QString::number(state.gameNumber), this);
     txtGameNum->setObjectName("txtGameNum");
     // The game number is one byte: only 0 to 255 can be typed.
-    txtGameNum->setValidator(new QIntValidator(0, 255, txtGameNum));
+    txtGameNum->setValidator(new QRegularExpressionValidator(
+        QRegularExpression(R"(25[0-5]|2[0-4]\d|1\d\d|[1-9]?\d|)"), txtGameNum));
     label->setBuddy(txtGameNum);
     layout->addWidget(label);
     layout->addWidget(txtGameNum);
