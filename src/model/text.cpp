@@ -227,6 +227,20 @@ void CsvReader::consumeLineEnd()
     ++line_;
 }
 
+bool CsvReader::nextLine(std::string &line)
+{
+    line.clear();
+    if (atEnd())
+        return false;
+    const std::size_t start = pos_;
+    while (pos_ < text_.size() && text_[pos_] != '\r' && text_[pos_] != '\n')
+        ++pos_;
+    line.assign(text_.substr(start, pos_ - start));
+    if (pos_ < text_.size())
+        consumeLineEnd();
+    return true;
+}
+
 bool CsvReader::next(std::string &value)
 {
     value.clear();

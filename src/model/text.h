@@ -61,6 +61,10 @@ public:
 
     // False at the end of the text.
     bool next(std::string &value);
+    // The rest of the current line without its line end, which is consumed:
+    // whole-line input mixed with value input on the same text, as a report
+    // reader needs. False at the end of the text.
+    bool nextLine(std::string &line);
     bool atEnd() const { return pos_ >= text_.size(); }
     // 1-based line number of the next character to read.
     int line() const { return line_; }

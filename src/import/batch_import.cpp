@@ -1,0 +1,118 @@
+#include "import/batch_import.h"
+
+#include "import/html_import.h"
+#include "import/report_import.h"
+#include "model/platform.h"
+#include "model/program_state.h"
+#include "model/text.h"
+#include "storage/map_commands.h"
+#include "storage/options_file.h"
+
+#include <algorithm>
+#include <filesystem>
+
+namespace wayscribe {
+
+namespace {
+
+constexpr const char *kBatchStatus = "Please wait, batch importing HTML turns...";
+
+// Extensions compare without regard to case, as the desktop's own file
+// name matching does; ".htm" does not take in ".html".
+bool hasExtension(const std::string &name, std::string_view extension)
+{
+    return name.size() > extension.size() &&
+           equalsIgnoreCase(std::string_view(name).substr(name.size() - extension.size()), extension);
+}
+
+std::string withSeparator(std::string folder)
+{
+    if (!folder.empty() && folder.back() != '/' && folder.back() != '\\')
+        folder += '/';
+    return folder;
+}
+
+} // namespace
+
+bool reportFilesInFolder(const std::string &folder, std::vector<std::string> &files, std::string &error)
+{
+    namespace fs = std::filesystem;
+    std::vector<std::string> names;
+    std::error_code ec;
+    for (fs::directory_iterator it(folder.empty() ? "." : folder, ec), end; !ec && it != end;
+         it.increment(ec)) {
+        std::error_code typeError;
+        if (it->is_regular_file(typeError))
+            names.push_back(it->path().filename().string());
+    }
+    if (ec) {
+        error = folder + ": " + ec.message();
+        return false;
+    }
+    std::sort(names.begin(), names.end());
+    files.clear();
+    for (std::string_view extension : {".htm", ".html"})
+        for (const std::string &name : names)
+            if (hasExtension(name, extension))
+                files.push_back(withSeparator(folder) + name);
+    return true;
+}
+
+BatchOutcome importHtmlFolder(World &world, ProgramState &state, Platform &platform,
+                              const std::string &folder)
+{
+    BatchOutcome outcome;
+    if (state.fileBusy)
+        return outcome;
+    state.mapChanged = 1;
+    platform.setStatus(kBatchStatus);
+    platform.setWaitCursor(true);
+    state.fileBusy = 1;
+    state.options.lastImp = withSeparator(folder);
+    writeOptions(state, platform);
+
+    std::vector<std::string> files;
+    std::string error;
+    outcome.listed = reportFilesInFolder(folder, files, error);
+    if (!outcome.listed)
+        platform.message("The folder could not be read.", kProgramTitle, MessageButtons::Ok,
+                         MessageIcon::Exclamation, error);
+    outcome.files = static_cast<int>(files.size());
+    for (std::size_t k = 0; k < files.size(); ++k) {
+        const std::string name = files[k].substr(folderPart(files[k]).size());
+        platform.setStatus(std::string(kBatchStatus) + " file " + formatPlain(static_cast<long long>(k + 1)) +
+                           " of " + formatPlain(outcome.files) + ", " + name);
+        // A report that stops or cannot be opened has been reported; the
+        // others are still imported.
+        switch (readReport(world, state, platform, files[k], ImportSettings{true}).result) {
+        case ReportResult::Imported:
+            ++outcome.imported;
+            break;
+        case ReportResult::Stopped:
+            ++outcome.stopped;
+            break;
+        case ReportResult::NotOpened:
+            ++outcome.notOpened;
+            break;
+        }
+    }
+
+    platform.setWaitCursor(false);
+    platform.setStatus("");
+    state.fileBusy = 0;
+    platform.redrawMap();
+    return outcome;
+}
+
+void batchImportHtml(World &world, ProgramState &state, Platform &platform)
+{
+    if (state.fileBusy)
+        return;
+    const std::string path = platform.chooseOpenFile(
+        {"Select folder with HTML turns...", kHtmlFileFilter, state.options.lastImp, ""});
+    if (path.empty())
+        return;
+    importHtmlFolder(world, state, platform, folderPart(path));
+}
+
+} // namespace wayscribe

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "import/report_import.h"
+
+#include <string>
+
+namespace wayscribe {
+
+class World;
+struct ProgramState;
+class Platform;
+
+inline constexpr const char *kHtmlFileFilter = "HTML File (*.html)|*.htm*";
+
+// File, Import HTML: asks for a report and imports it.
+void Import_HTML(World &world, ProgramState &state, Platform &platform);
+
+// Imports a chosen report as File, Import HTML does: status line, busy
+// flag, the report's folder remembered in the options, and the view moved
+// onto the imported map. Does nothing while another file job runs.
+ReportResult importHtmlFile(World &world, ProgramState &state, Platform &platform, const std::string &path);
+
+} // namespace wayscribe

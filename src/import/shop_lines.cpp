@@ -1,0 +1,141 @@
+#include "import/shop_lines.h"
+
+#include "import/report_reader.h"
+#include "import/report_state.h"
+#include "import/report_text.h"
+#include "model/platform.h"
+#include "model/text.h"
+#include "model/world.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+
+namespace wayscribe {
+
+namespace {
+
+constexpr long kPriceMin = std::numeric_limits<std::int32_t>::min();
+constexpr long kPriceMax = std::numeric_limits<std::int32_t>::max();
+
+bool isShopHeader(std::string_view field)
+{
+    if (field.empty() || field[0] < '0' || field[0] > '9')
+        return false;
+    return field[0] != '5' || (field.size() > 1 && field[1] != ' ');
+}
+
+// Only the officials' shop 0 takes rows; other shops have a number.
+bool takesRows(const ReportState &r, std::string_view field)
+{
+    return r.shopNumber != 0 || contains(field, "City Officials") || contains(field, "Town Council") ||
+           contains(field, "Village Elders");
+}
+
+bool isEndOfShops(const ReportState &r, std::string_view field)
+{
+    return r.bannerSeen ? startsWith(field, "</PRE><H2 ALIGN=center>PARTY STATISTICS</H2><PRE>")
+                        : startsWith(field, "<center><table><tr><td align=");
+}
+
+void openShop(ReportImport &im, std::string_view field)
+{
+    ReportState &r = im.report;
+    const std::string_view head = firstChars(field, 3);
+    const long blankAt = positionOf(head, " ");
+    r.shopNumber =
+        blankAt == 0 ? 0
+                     : im.in.wholeNumber(firstChars(head, blankAt), std::numeric_limits<std::int16_t>::min(),
+                                         std::numeric_limits<std::int16_t>::max(), "shop number");
+    r.shopName = std::string(trimBlanks(changeCase(trimRightBlanks(midChars(field, 4, 24)), true)));
+    r.itemCount = 0;
+}
+
+void storeRow(ReportImport &im, long settlement, const ItemRow &row)
+{
+    const ReportState &r = im.report;
+    if (!isItemIndex(r.itemCount))
+        return;
+    const int n = static_cast<int>(settlement);
+    const int shop = static_cast<int>(r.shopNumber);
+    im.world.setItem(n, shop, r.itemCount, ItemField::Name, row.name);
+    im.world.setItem(n, shop, r.itemCount, ItemField::Number, row.number);
+    im.world.setItem(n, shop, r.itemCount, ItemField::Price, formatPlain(row.price));
+    im.world.setShopName(n, shop, r.shopName);
+}
+
+void readShopField(ReportImport &im, long settlement, std::string_view field)
+{
+    ReportState &r = im.report;
+    const bool shopLine = isShopHeader(field);
+    if (shopLine)
+        openShop(im, field);
+    if (!takesRows(r, field))
+        return;
+    // Rows only go where the tables have room: settlements 1..160, shops 0..110.
+    const bool stored =
+        isSettlementIndex(static_cast<int>(std::clamp<long>(settlement, 0, kMaxSettlements + 1))) &&
+        isShopIndex(static_cast<int>(std::clamp<long>(r.shopNumber, -1, kMaxShop + 1)));
+    if (r.itemCount == 0 && stored)
+        for (int i = 1; i <= kItemsPerShop; ++i)
+            for (ItemField f : {ItemField::Name, ItemField::Number, ItemField::Price})
+                im.world.setItem(static_cast<int>(settlement), static_cast<int>(r.shopNumber), i, f, {});
+    if (!contains(field, "Quest") && field.size() <= 26)
+        return;
+    const std::optional<ItemRow> row = parseItemRow(im.in, shopLine ? midChars(field, 29) : field, shopLine);
+    if (!row)
+        return;
+    // Rows past the twentieth have no place in the shop.
+    if (r.itemCount <= kItemsPerShop)
+        ++r.itemCount;
+    if (stored)
+        storeRow(im, settlement, *row);
+}
+
+} // namespace
+
+std::optional<ItemRow> parseItemRow(const ReportReader &in, std::string_view row, bool fromShopLine)
+{
+    ItemRow item;
+    if (startsWith(row, "(")) {
+        item.number = std::string(midChars(row, 2, 3));
+        item.name = std::string(trimRightBlanks(midChars(row, 7, 20)));
+        item.price = in.wholeNumber(midChars(row, 27), kPriceMin, kPriceMax, "price");
+        return item;
+    }
+    long questAmount = 0;
+    const long openAt = positionOf(row, "(");
+    const long closeAt = positionOf(row, ")");
+    if (openAt != 0 && closeAt != 0) {
+        const std::string_view name = firstChars(row, openAt - 1);
+        item.name = std::string(fromShopLine ? trimLeftBlanks(name) : name);
+        item.number = std::string(midChars(row, openAt + 1, closeAt - openAt - 1));
+    } else {
+        const long colonAt = positionOf(row, ":");
+        const long forAt = positionOf(row, " for ");
+        if (colonAt == 0 || forAt == 0 || forAt <= colonAt)
+            return std::nullopt;
+        item.name = std::string(midChars(row, colonAt + 1, forAt - colonAt - 1));
+        item.number = formatPlain(0); // quest offers have no item number
+        questAmount = in.wholeNumber(midChars(row, forAt + 5), kPriceMin, kPriceMax, "quest reward");
+    }
+    // A quest's reward stands in for whatever the price column holds.
+    if (questAmount > 0)
+        item.price = questAmount;
+    else if (row.size() >= 27)
+        item.price = in.wholeNumber(midChars(row, 26), kPriceMin, kPriceMax, "price");
+    return item;
+}
+
+void readShopLines(ReportImport &im, long settlement)
+{
+    std::string field;
+    for (im.in.requireField(field, "the shop list"); !isEndOfShops(im.report, field);
+         im.in.requireField(field, "the shop list")) {
+        if (!field.empty())
+            readShopField(im, settlement, field);
+        im.platform.processEvents();
+    }
+}
+
+} // namespace wayscribe
