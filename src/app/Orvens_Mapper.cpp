@@ -179,6 +179,11 @@ void Orvens_Mapper::buildCentre()
 
     connect(Picture1, &MapPicture::resized, this, &Orvens_Mapper::layoutMapPicture);
     connect(Picture1, &MapPicture::hovered, this, &Orvens_Mapper::Picture1_MouseMove);
+    connect(Picture1, &MapPicture::scrollRequested, this, [this](int dx, int dy, bool byHalfViews) {
+        // Moving the scroll bars runs their own change handlers.
+        hscroll->setValue(hscroll->value() + dx * (byHalfViews ? hscroll->pageStep() : 1));
+        vscroll->setValue(vscroll->value() + dy * (byHalfViews ? vscroll->pageStep() : 1));
+    });
     connect(hscroll, &QScrollBar::valueChanged, this, &Orvens_Mapper::hscroll_Change);
     connect(vscroll, &QScrollBar::valueChanged, this, &Orvens_Mapper::vscroll_Change);
     connect(MiniMap, &MinimapWidget::clicked, this, &Orvens_Mapper::MiniMap_MouseDown);

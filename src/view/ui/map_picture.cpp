@@ -2,6 +2,7 @@
 
 #include "view/draw/map_drawing.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -18,6 +19,8 @@ MapPicture::MapPicture(QWidget *parent) : QWidget(parent)
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    // The map can be scrolled from the keyboard once it has the focus.
+    setFocusPolicy(Qt::StrongFocus);
 }
 
 void MapPicture::clearBuffer()
@@ -39,6 +42,21 @@ void MapPicture::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
     emit resized();
+}
+
+void MapPicture::keyPressEvent(QKeyEvent *event)
+{
+    switch (event->key()) {
+    case Qt::Key_Left: emit scrollRequested(-1, 0, false); break;
+    case Qt::Key_Right: emit scrollRequested(1, 0, false); break;
+    case Qt::Key_Up: emit scrollRequested(0, -1, false); break;
+    case Qt::Key_Down: emit scrollRequested(0, 1, false); break;
+    case Qt::Key_PageUp: emit scrollRequested(0, -1, true); break;
+    case Qt::Key_PageDown: emit scrollRequested(0, 1, true); break;
+    case Qt::Key_Home: emit scrollRequested(-1, 0, true); break;
+    case Qt::Key_End: emit scrollRequested(1, 0, true); break;
+    default: QWidget::keyPressEvent(event); return;
+    }
 }
 
 void MapPicture::mouseMoveEvent(QMouseEvent *event)

@@ -25,11 +25,15 @@ signals:
     // View column and row under the pointer, counted from 1; 0 when outside
     // the drawn tiles.
     void hovered(int column, int row);
+    // Arrow and page keys: how far to move the view, in sectors, or in
+    // half views for the page keys.
+    void scrollRequested(int sectorsX, int sectorsY, bool byHalfViews);
 
 protected:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     QImage buffer_;

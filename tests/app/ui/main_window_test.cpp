@@ -243,6 +243,14 @@ private slots:
         h.state.fileBusy = 0;
         hscroll->setValue(49);
         hscroll->setValue(50);
+        // The keyboard moves the view through the scroll bars.
+        QTest::keyClick(h.window->mapPicture(), Qt::Key_Right);
+        QCOMPARE(h.state.viewLeft, 51);
+        QTest::keyClick(h.window->mapPicture(), Qt::Key_PageDown);
+        QCOMPARE(int(h.state.viewTop), h.state.viewRows / 2);
+        QTest::keyClick(h.window->mapPicture(), Qt::Key_Left);
+        h.state.viewTop = 0;
+        h.window->redrawMap();
         // The border lines run along the first row and column of the picture.
         QCOMPARE(h.tileAt(1, 1).copy(1, 1, 15, 15), h.sheetEntry(2).copy(1, 1, 15, 15));
     }
