@@ -51,6 +51,8 @@ void openShop(ReportImport &im, std::string_view field)
     r.itemCount = 0;
 }
 
+// A shop is packed into one buffer, so each change rewrites it whole: a row
+// and the shop's name go in together.
 void storeRow(ReportImport &im, long settlement, const ItemRow &row)
 {
     const ReportState &r = im.report;
@@ -58,10 +60,21 @@ void storeRow(ReportImport &im, long settlement, const ItemRow &row)
         return;
     const int n = static_cast<int>(settlement);
     const int shop = static_cast<int>(r.shopNumber);
-    im.world.setItem(n, shop, r.itemCount, ItemField::Name, row.name);
-    im.world.setItem(n, shop, r.itemCount, ItemField::Number, row.number);
-    im.world.setItem(n, shop, r.itemCount, ItemField::Price, formatPlain(row.price));
-    im.world.setShopName(n, shop, r.shopName);
+    ShopTexts texts = im.world.shop(n, shop);
+    texts.item(r.itemCount, ItemField::Name) = row.name;
+    texts.item(r.itemCount, ItemField::Number) = row.number;
+    texts.item(r.itemCount, ItemField::Price) = formatPlain(row.price);
+    texts.name = r.shopName;
+    im.world.setShop(n, shop, texts);
+}
+
+void clearRows(World &world, int n, int shop)
+{
+    ShopTexts texts = world.shop(n, shop);
+    for (auto &fields : texts.items)
+        for (std::string &f : fields)
+            f.clear();
+    world.setShop(n, shop, texts);
 }
 
 void readShopField(ReportImport &im, long settlement, std::string_view field)
@@ -77,9 +90,7 @@ void readShopField(ReportImport &im, long settlement, std::string_view field)
         isSettlementIndex(static_cast<int>(std::clamp<long>(settlement, 0, kMaxSettlements + 1))) &&
         isShopIndex(static_cast<int>(std::clamp<long>(r.shopNumber, -1, kMaxShop + 1)));
     if (r.itemCount == 0 && stored)
-        for (int i = 1; i <= kItemsPerShop; ++i)
-            for (ItemField f : {ItemField::Name, ItemField::Number, ItemField::Price})
-                im.world.setItem(static_cast<int>(settlement), static_cast<int>(r.shopNumber), i, f, {});
+        clearRows(im.world, static_cast<int>(settlement), static_cast<int>(r.shopNumber));
     if (!contains(field, "Quest") && field.size() <= 26)
         return;
     const std::optional<ItemRow> row = parseItemRow(im.in, shopLine ? midChars(field, 29) : field, shopLine);
