@@ -161,6 +161,7 @@ TEST(RouteSearchReference, DenseNetworksWithTiesEverywhere)
     // Cheap equal prices make many travellers arrive in the same tick.
     compareOn({20, 60, 2, 5}, 3, 20);
     compareOn({160, 110, 3, 2}, 4, 6);
+    compareOn({160, 110, 100, 2}, 7, 6);
 }
 
 TEST(RouteSearchReference, LongJourneysFillThePool)
