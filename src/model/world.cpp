@@ -78,6 +78,20 @@ void PackedShop::assign(const ShopTexts &texts)
     data_ = std::move(data);
 }
 
+void PackedShop::assign(const JoinedShopTexts &texts)
+{
+    if (texts.text_.empty()) {
+        std::string().swap(data_);
+        return;
+    }
+    std::string data(kHeaderBytes + texts.text_.size(), '\0');
+    for (int i = 0; i < kFieldCount; ++i)
+        writeOffset(data, i, texts.offsets_[i]);
+    writeOffset(data, kFieldCount, static_cast<std::uint32_t>(texts.text_.size()));
+    std::memcpy(data.data() + kHeaderBytes, texts.text_.data(), texts.text_.size());
+    data_ = std::move(data);
+}
+
 ShopTexts PackedShop::unpack() const
 {
     ShopTexts t;
@@ -168,6 +182,11 @@ ShopTexts World::shop(int n, int shop) const
 }
 
 void World::setShop(int n, int shop, const ShopTexts &texts)
+{
+    packed(n, shop).assign(texts);
+}
+
+void World::setShop(int n, int shop, const JoinedShopTexts &texts)
 {
     packed(n, shop).assign(texts);
 }

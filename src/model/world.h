@@ -49,6 +49,8 @@ struct ShopTexts {
     const std::string &item(int i, ItemField f) const { return items[i][static_cast<int>(f)]; }
 };
 
+class JoinedShopTexts;
+
 // A shop's 61 texts packed into one buffer: a full map holds over three
 // million item texts, and one std::string each would not fit the memory
 // budget. An empty shop owns no heap memory at all.
@@ -59,6 +61,7 @@ public:
     std::string_view field(int index) const;
     void setField(int index, std::string_view text);
     void assign(const ShopTexts &texts);
+    void assign(const JoinedShopTexts &texts); // all kFieldCount fields present
     ShopTexts unpack() const;
     bool empty() const { return data_.empty(); }
     std::size_t heapBytes() const { return data_.capacity() > 15 ? data_.capacity() : 0; }
@@ -68,6 +71,37 @@ public:
 private:
     // Layout: kFieldCount + 1 little offsets (uint32) then the characters.
     std::string data_;
+};
+
+// A shop's texts laid end to end in field order (name, then name, number and
+// price of items 1..20), as a file reader collects them line by line:
+// handing a whole shop over then costs one copy instead of 61 strings.
+class JoinedShopTexts {
+public:
+    void clear()
+    {
+        text_.clear();
+        count_ = 0;
+    }
+    void add(std::string_view field)
+    {
+        offsets_[count_++] = static_cast<std::uint32_t>(text_.size());
+        text_.append(field);
+    }
+    int count() const { return count_; }
+    // Field 0..count()-1.
+    std::string_view field(int index) const
+    {
+        const std::uint32_t end =
+            index + 1 < count_ ? offsets_[index + 1] : static_cast<std::uint32_t>(text_.size());
+        return std::string_view(text_).substr(offsets_[index], end - offsets_[index]);
+    }
+
+private:
+    friend class PackedShop;
+    std::string text_;
+    std::array<std::uint32_t, PackedShop::kFieldCount> offsets_{};
+    int count_ = 0;
 };
 
 struct Settlement {
@@ -109,6 +143,7 @@ public:
     void setItem(int n, int shop, int item, ItemField f, std::string_view text);
     ShopTexts shop(int n, int shop) const;
     void setShop(int n, int shop, const ShopTexts &texts);
+    void setShop(int n, int shop, const JoinedShopTexts &texts); // all fields present
 
     Dungeon &dungeon(int d); // 0..200: slot 0 exists but is never used
     const Dungeon &dungeon(int d) const;
@@ -129,8 +164,11 @@ public:
     // Bytes held by the tables and their texts (for the memory benchmark).
     std::size_t memoryBytes() const;
 
-private:
+    // A shop's texts as they are kept, for walking all 61 fields without
+    // copying them (the map file writer).
     const PackedShop &packed(int n, int shop) const;
+
+private:
     PackedShop &packed(int n, int shop);
 
     std::vector<Sector> sectors_;                       // (kMapSize+1)^2, row 0 / column 0 unused

@@ -65,7 +65,7 @@ bool LineReader::fill()
     return true;
 }
 
-bool LineReader::next(std::string_view &line)
+bool LineReader::nextAfterFill(std::string_view &line)
 {
     if (!file_)
         return false;

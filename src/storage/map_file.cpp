@@ -26,30 +26,24 @@ ShopRange shopRange(int version)
 }
 
 // Reads one shop. On a failure the fields read so far are stored and the
-// rest keep their previous contents.
-bool readShop(MapLineReader &in, World &world, int n, int s)
+// rest keep their previous contents. `draft` is scratch space reused from
+// shop to shop.
+bool readShop(MapLineReader &in, World &world, int n, int s, JoinedShopTexts &draft)
 {
-    ShopTexts draft;
-    int fieldsRead = 0;
-    bool ok = in.readText(draft.name);
-    if (ok)
-        ++fieldsRead;
-    for (int i = 1; ok && i <= kItemsPerShop; ++i)
-        for (int f = 0; ok && f < 3; ++f) {
-            ok = in.readText(draft.items[i][f]);
-            if (ok)
-                ++fieldsRead;
-        }
-    if (ok) {
+    draft.clear();
+    std::string_view text;
+    while (draft.count() < PackedShop::kFieldCount && in.readTextView(text))
+        draft.add(text);
+    if (draft.count() == PackedShop::kFieldCount) {
         world.setShop(n, s, draft);
         return true;
     }
-    if (fieldsRead > 0)
-        world.setShopName(n, s, draft.name);
-    for (int k = 1; k < fieldsRead; ++k) {
+    if (draft.count() > 0)
+        world.setShopName(n, s, draft.field(0));
+    for (int k = 1; k < draft.count(); ++k) {
         const int i = (k - 1) / 3 + 1;
         const auto f = static_cast<ItemField>((k - 1) % 3);
-        world.setItem(n, s, i, f, draft.item(i, f));
+        world.setItem(n, s, i, f, draft.field(k));
     }
     return false;
 }
@@ -66,6 +60,7 @@ bool readBody(MapLineReader &in, World &world, std::uint8_t &gameNumber, int ver
                 return false;
         }
     const ShopRange shops = shopRange(version);
+    JoinedShopTexts draft;
     for (int n = 1; n <= kMaxSettlements; ++n) {
         Settlement &st = world.settlement(n);
         if (!in.readByte(st.inUse) || !in.readByte(st.x) || !in.readByte(st.y))
@@ -73,7 +68,7 @@ bool readBody(MapLineReader &in, World &world, std::uint8_t &gameNumber, int ver
         if (version >= 17 && !in.readText(st.cityState))
             return false;
         for (int s = shops.first; s <= shops.last; ++s)
-            if (!readShop(in, world, n, s))
+            if (!readShop(in, world, n, s, draft))
                 return false;
     }
     if (version < 11)
@@ -127,6 +122,18 @@ void writeEscaped(BufferedFileWriter &out, std::string_view text)
         writeText(out, replaceAll(text, "\r\n", "@/@"));
 }
 
+// The lines of a shop without any text; most shops of a map are such.
+std::string_view emptyShopLines()
+{
+    static const std::string lines = [] {
+        std::string all;
+        for (int k = 0; k < PackedShop::kFieldCount; ++k)
+            all += "\"\"\r\n";
+        return all;
+    }();
+    return lines;
+}
+
 void writeBody(BufferedFileWriter &out, const World &world, std::uint8_t gameNumber)
 {
     writeText(out, kMapFileHeader);
@@ -146,10 +153,15 @@ void writeBody(BufferedFileWriter &out, const World &world, std::uint8_t gameNum
         writeNumber(out, st.y);
         writeText(out, st.cityState);
         for (int s = 0; s <= kMaxShop; ++s) {
-            writeText(out, trimBlanks(world.shopName(n, s)));
-            for (int i = 1; i <= kItemsPerShop; ++i)
-                for (int f = 0; f < 3; ++f)
-                    writeText(out, trimBlanks(world.item(n, s, i, static_cast<ItemField>(f))));
+            // Fields in file order: the name, then name, number and price of
+            // items 1..20.
+            const PackedShop &shop = world.packed(n, s);
+            if (shop.empty()) {
+                out.write(emptyShopLines());
+                continue;
+            }
+            for (int k = 0; k < PackedShop::kFieldCount; ++k)
+                writeText(out, trimBlanks(shop.field(k)));
         }
     }
     for (int d = 1; d <= kMaxDungeons; ++d) {
