@@ -20,7 +20,7 @@ std::string dungeonName(SampleRandom &random);
 
 // Hands out names that were not handed out before.
 class UniqueNames {
-  public:
+public:
     template <class Maker> std::string next(SampleRandom &random, Maker make)
     {
         while (true) {
@@ -31,7 +31,7 @@ class UniqueNames {
     }
     void reserve(const std::string &name) { used_.insert(name); }
 
-  private:
+private:
     std::set<std::string> used_;
 };
 

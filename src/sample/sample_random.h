@@ -11,7 +11,7 @@ namespace wayscribe::sample {
 // same seed on every machine and library version, which the standard
 // distributions do not promise.
 class SampleRandom {
-  public:
+public:
     explicit SampleRandom(std::uint64_t seed) : state_(seed) {}
 
     // An independent stream for one part of the world, so that changing how
@@ -39,9 +39,6 @@ class SampleRandom {
 
     bool percent(int chance) { return between(1, 100) <= chance; }
 
-    // Uniform in [0, 1).
-    double unit() { return static_cast<double>(next() >> 11) * (1.0 / 9007199254740992.0); }
-
     template <class Container> const auto &pick(const Container &items)
     {
         return items[static_cast<std::size_t>(between(0, static_cast<int>(std::size(items)) - 1))];
@@ -63,7 +60,7 @@ class SampleRandom {
             std::swap(items[i - 1], items[static_cast<std::size_t>(between(0, static_cast<int>(i) - 1))]);
     }
 
-  private:
+private:
     std::uint64_t state_;
 };
 

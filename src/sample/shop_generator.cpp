@@ -105,7 +105,7 @@ void fillGoods(ShopTexts &shop, const ShopKind &kind, int count, SampleRandom &r
 }
 
 class JourneyPlanner {
-  public:
+public:
     JourneyPlanner(const World &world, const SampleLayout &layout) : world_(world), layout_(layout)
     {
         for (const PlacedSettlement &s : layout.settlements)
@@ -172,7 +172,7 @@ class JourneyPlanner {
         return 0;
     }
 
-  private:
+private:
     const World &world_;
     const SampleLayout &layout_;
     std::vector<bool> coastal_;

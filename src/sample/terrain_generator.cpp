@@ -24,33 +24,38 @@ int cell(int x, int y)
     return (y - 1) * kMapSize + (x - 1);
 }
 
-// Shares of the map, as fractions of all sectors ranked by height.
-constexpr double kSeaLevel = 0.34;
-constexpr double kUplands = 0.78;
-constexpr double kHighUplands = 0.72;
-constexpr double kHillTops = 0.95;
-constexpr double kSummits = 0.985;
+// Everything below is in thousandths and whole numbers: no floating point,
+// so that every compiler makes the same world from a seed.
+constexpr int kPerMille = 1000;
 
-// Each sector's rank (0..1) among all sectors by a noise value, so that the
-// share of each terrain does not depend on how the noise happened to spread.
-std::vector<double> rankedNoise(const ValueNoise &noise, double scale, int layers)
+// Shares of the map, in thousandths of all sectors ranked by height.
+constexpr int kSeaLevel = 340;
+constexpr int kUplands = 780;
+constexpr int kHighUplands = 720;
+constexpr int kHillTops = 950;
+constexpr int kSummits = 985;
+
+// Each sector's rank among all sectors by a noise value, in thousandths, so
+// that the share of each terrain does not depend on how the noise happened
+// to spread.
+std::vector<int> rankedNoise(const ValueNoise &noise, int cellSize, int layers)
 {
-    std::vector<double> value(kSectors);
+    std::vector<int> value(kSectors);
     for (int y = 1; y <= kMapSize; ++y)
         for (int x = 1; x <= kMapSize; ++x)
-            value[cell(x, y)] = noise.fractal(x / scale, y / scale, layers);
+            value[cell(x, y)] = noise.fractal(x, y, cellSize, layers);
     std::vector<int> order(kSectors);
     std::iota(order.begin(), order.end(), 0);
     std::sort(order.begin(), order.end(),
               [&](int a, int b) { return value[a] != value[b] ? value[a] < value[b] : a < b; });
-    std::vector<double> rank(kSectors);
+    std::vector<int> rank(kSectors);
     for (int i = 0; i < kSectors; ++i)
-        rank[order[i]] = static_cast<double>(i) / kSectors;
+        rank[order[i]] = i * kPerMille / kSectors;
     return rank;
 }
 
 // Steps from each land sector to the nearest water, counted up to `limit`.
-std::vector<int> waterDistance(const std::vector<double> &height, int limit)
+std::vector<int> waterDistance(const std::vector<int> &height, int limit)
 {
     std::vector<int> dist(kSectors, limit);
     for (int i = 0; i < kSectors; ++i)
@@ -70,40 +75,41 @@ std::vector<int> waterDistance(const std::vector<double> &height, int limit)
     return dist;
 }
 
+// Thousandths, all of them.
 struct Climate {
-    double height;   // rank among all sectors
-    double moisture; // rank among all sectors
-    double warmth;   // grows southward
-    double detail;   // small-scale variety of open country
-    double ridge;    // 1 on the middle contour of a finer noise, falling evenly to 0 away from it
-    int toWater;
+    int height;   // rank among all sectors
+    int moisture; // rank among all sectors
+    int warmth;   // grows southward
+    int detail;   // small-scale variety of open country
+    int ridge;    // 1000 on the middle contour of a finer noise, falling evenly to 0 away from it
+    int toWater;  // in sectors, not thousandths
 };
 
 std::uint8_t landTerrain(int y, const Climate &c)
 {
     // Mountains run along the crest lines of the uplands, hills flank them.
     const bool upland = c.height >= kUplands;
-    if ((upland && c.ridge >= 0.72) || c.height >= kSummits)
+    if ((upland && c.ridge >= 720) || c.height >= kSummits)
         return kMountain;
-    if ((upland && c.ridge >= 0.45) || c.height >= kHillTops || (c.height >= kHighUplands && c.ridge >= 0.8))
+    if ((upland && c.ridge >= 450) || c.height >= kHillTops || (c.height >= kHighUplands && c.ridge >= 800))
         return kHill;
-    if (c.toWater <= 2 && c.moisture >= 0.62)
-        return (y > 110 || c.moisture >= 0.85) ? kSwamp : kMarsh;
-    if (c.moisture >= 0.64) {
-        if (c.warmth > 0.78)
+    if (c.toWater <= 2 && c.moisture >= 620)
+        return (y > 110 || c.moisture >= 850) ? kSwamp : kMarsh;
+    if (c.moisture >= 640) {
+        if (c.warmth > 780)
             return kJungle;
-        return c.moisture >= 0.88 ? kHeavyForest : kForest;
+        return c.moisture >= 880 ? kHeavyForest : kForest;
     }
-    if (c.moisture < 0.14)
-        return c.warmth > 0.55 ? kDesert : kBarren;
+    if (c.moisture < 140)
+        return c.warmth > 550 ? kDesert : kBarren;
     if (upland)
         return kRough;
-    if (c.detail < 0.5)
+    if (c.detail < 500)
         return kOpen;
-    return c.detail < 0.64 ? kField : kRough;
+    return c.detail < 640 ? kField : kRough;
 }
 
-void chooseRegions(SampleLayout &layout, const std::vector<double> &height, SampleRandom &random)
+void chooseRegions(SampleLayout &layout, const std::vector<int> &height, SampleRandom &random)
 {
     const int count = layout.fullTables ? 8 : random.between(6, 8);
     UniqueNames names;
@@ -113,8 +119,8 @@ void chooseRegions(SampleLayout &layout, const std::vector<double> &height, Samp
             spacing -= 10;
         const int x = random.between(22, kMapSize - 21);
         const int y = random.between(22, kMapSize - 21);
-        const double h = height[cell(x, y)];
-        if (h < kSeaLevel + 0.05 || h >= kHighUplands)
+        const int h = height[cell(x, y)];
+        if (h < kSeaLevel + 50 || h >= kHighUplands)
             continue;
         const bool crowded = std::any_of(layout.regions.begin(), layout.regions.end(), [&](const Region &r) {
             return squaredDistance(x, y, r.x, r.y) < spacing * spacing;
@@ -173,13 +179,17 @@ void markExplored(SampleLayout &layout, std::uint64_t seed)
     const ValueNoise edge(seed);
     for (int y = 1; y <= kMapSize; ++y)
         for (int x = 1; x <= kMapSize; ++x) {
-            const double wobble = (edge.fractal(x / 14.0, y / 14.0, 3) - 0.5) * 1.4;
-            for (const Region &r : layout.regions)
-                if (static_cast<double>(squaredDistance(x, y, r.x, r.y)) / (r.radius * r.radius) + wobble <
-                    1.0) {
+            // Inside when d^2/R^2 + 1.4 (n - 1/2) < 1, for a noise n of 0..1,
+            // multiplied out to whole numbers.
+            const std::int64_t wobble = 14 * (edge.fractal(x, y, 14, 3) - ValueNoise::kRange / 2);
+            for (const Region &r : layout.regions) {
+                const std::int64_t reach = std::int64_t{r.radius} * r.radius;
+                if (10 * ValueNoise::kRange * std::int64_t{squaredDistance(x, y, r.x, r.y)} + wobble * reach <
+                    10 * ValueNoise::kRange * reach) {
                     layout.setExplored(x, y);
                     break;
                 }
+            }
         }
     // ...joined by the winding tracks the party took from one region to the
     // next.
@@ -201,11 +211,11 @@ void markExplored(SampleLayout &layout, std::uint64_t seed)
 void generateTerrain(World &world, SampleLayout &layout, std::uint64_t seed)
 {
     SampleRandom random = SampleRandom::stream(seed, 10);
-    const std::vector<double> height = rankedNoise(ValueNoise(random.next()), 42.0, 5);
-    const std::vector<double> moisture = rankedNoise(ValueNoise(random.next()), 30.0, 4);
+    const std::vector<int> height = rankedNoise(ValueNoise(random.next()), 42, 5);
+    const std::vector<int> moisture = rankedNoise(ValueNoise(random.next()), 30, 4);
     const ValueNoise warmthNoise(random.next());
     const ValueNoise detailNoise(random.next());
-    const std::vector<double> ridgeRank = rankedNoise(ValueNoise(random.next()), 12.0, 3);
+    const std::vector<int> ridgeRank = rankedNoise(ValueNoise(random.next()), 12, 3);
     const std::vector<int> toWater = waterDistance(height, 4);
 
     chooseRegions(layout, height, random);
@@ -226,10 +236,10 @@ void generateTerrain(World &world, SampleLayout &layout, std::uint64_t seed)
             Climate c;
             c.height = height[i];
             c.moisture = moisture[i];
-            c.warmth =
-                static_cast<double>(y) / kMapSize + (warmthNoise.fractal(x / 25.0, y / 25.0, 3) - 0.5) * 0.3;
-            c.detail = detailNoise.fractal(x / 6.0, y / 6.0, 2);
-            c.ridge = 1.0 - 2.0 * std::abs(ridgeRank[i] - 0.5);
+            c.warmth = y * kPerMille / kMapSize +
+                       (warmthNoise.fractal(x, y, 25, 3) - ValueNoise::kRange / 2) * 300 / ValueNoise::kRange;
+            c.detail = detailNoise.fractal(x, y, 6, 2) * kPerMille / ValueNoise::kRange;
+            c.ridge = kPerMille - std::abs(2 * ridgeRank[i] - kPerMille);
             c.toWater = toWater[i];
             sector.terrain = landTerrain(y, c);
         }

@@ -1,10 +1,11 @@
 #include "sample/value_noise.h"
 
-#include <cmath>
-
 namespace wayscribe::sample {
 
 namespace {
+
+constexpr int kFractionBits = 16;
+constexpr std::int64_t kFractionMask = (std::int64_t{1} << kFractionBits) - 1;
 
 std::uint64_t mix(std::uint64_t z)
 {
@@ -13,50 +14,51 @@ std::uint64_t mix(std::uint64_t z)
     return z ^ (z >> 31);
 }
 
-double smooth(double t)
+// 3t^2 - 2t^3 of a fraction t in sixteen bits.
+std::int64_t smooth(std::int64_t t)
 {
-    return t * t * (3.0 - 2.0 * t);
+    return (t * t * (3 * ValueNoise::kRange - 2 * t)) >> (2 * kFractionBits);
+}
+
+std::int64_t blend(std::int64_t a, std::int64_t b, std::int64_t t)
+{
+    return a + (((b - a) * t) >> kFractionBits);
 }
 
 } // namespace
 
-double ValueNoise::lattice(std::int64_t ix, std::int64_t iy) const
+int ValueNoise::lattice(std::int64_t ix, std::int64_t iy) const
 {
     std::uint64_t h = mix(seed_);
     h = mix(h ^ static_cast<std::uint64_t>(ix) * 0xC2B2AE3D27D4EB4Full);
     h = mix(h ^ static_cast<std::uint64_t>(iy) * 0x165667B19E3779F9ull);
-    return static_cast<double>(h >> 11) * (1.0 / 9007199254740992.0);
+    return static_cast<int>(h >> (64 - kFractionBits));
 }
 
-double ValueNoise::at(double x, double y) const
+int ValueNoise::at(std::int64_t x, std::int64_t y) const
 {
-    const double fx = std::floor(x);
-    const double fy = std::floor(y);
-    const auto ix = static_cast<std::int64_t>(fx);
-    const auto iy = static_cast<std::int64_t>(fy);
-    const double tx = smooth(x - fx);
-    const double ty = smooth(y - fy);
-    const double top = lattice(ix, iy) + (lattice(ix + 1, iy) - lattice(ix, iy)) * tx;
-    const double bottom = lattice(ix, iy + 1) + (lattice(ix + 1, iy + 1) - lattice(ix, iy + 1)) * tx;
-    return top + (bottom - top) * ty;
+    const std::int64_t ix = x >> kFractionBits, iy = y >> kFractionBits;
+    const std::int64_t tx = smooth(x & kFractionMask), ty = smooth(y & kFractionMask);
+    const std::int64_t top = blend(lattice(ix, iy), lattice(ix + 1, iy), tx);
+    const std::int64_t bottom = blend(lattice(ix, iy + 1), lattice(ix + 1, iy + 1), tx);
+    return static_cast<int>(blend(top, bottom, ty));
 }
 
-double ValueNoise::fractal(double x, double y, int layers) const
+int ValueNoise::fractal(int x, int y, int cell, int layers) const
 {
-    double sum = 0.0;
-    double weight = 1.0;
-    double total = 0.0;
+    std::int64_t sum = 0, total = 0;
     for (int layer = 0; layer < layers; ++layer) {
         // Each layer its own lattice, shifted so that the lattice points of
         // the layers do not line up.
         const ValueNoise layerNoise(seed_ + static_cast<std::uint64_t>(layer) * 0x632BE59BD9B4E019ull);
-        sum += layerNoise.at(x + layer * 17.31, y + layer * 29.77) * weight;
+        const std::int64_t shift = static_cast<std::int64_t>(layer) * 1134467;
+        const std::int64_t weight = std::int64_t{1} << (layers - 1 - layer);
+        sum += layerNoise.at((static_cast<std::int64_t>(x) << (kFractionBits + layer)) / cell + shift,
+                             (static_cast<std::int64_t>(y) << (kFractionBits + layer)) / cell + 2 * shift) *
+               weight;
         total += weight;
-        weight *= 0.5;
-        x *= 2.0;
-        y *= 2.0;
     }
-    return sum / total;
+    return static_cast<int>(sum / total);
 }
 
 } // namespace wayscribe::sample
