@@ -65,6 +65,11 @@ std::string_view settlementNameOf(const World &world, long long number)
     return world.sector(s.x, s.y).settlementName;
 }
 
+std::string settlementBoxText(const World &world, long long number)
+{
+    return std::string(settlementNameOf(world, number)) + " (" + formatPlain(number) + ")";
+}
+
 void buildJourneyTable(const World &world, Platform &platform, JourneyTable &table)
 {
     table.count.fill(0);
@@ -100,8 +105,7 @@ void buildJourneyTable(const World &world, Platform &platform, JourneyTable &tab
                     table.orderText[s][k] = "B 99 " + formatPlain(shop) + " " +
                                             std::string(world.item(s, shop, item, ItemField::Number)) +
                                             " @ " + std::string(price) + "gp to get to " +
-                                            std::string(settlementNameOf(world, d)) + " (" + formatPlain(d) +
-                                            ")";
+                                            settlementBoxText(world, d);
                 if (pricedSources[d] == kCheckedSources)
                     platform.message(kFullCostWarning, kProgramTitle, MessageButtons::Ok,
                                      MessageIcon::Exclamation);

@@ -53,4 +53,8 @@ void buildJourneyTable(const World &world, Platform &platform, JourneyTable &tab
 // for a number that is no settlement.
 std::string_view settlementNameOf(const World &world, long long number);
 
+// A settlement as the route finder names it, in its boxes, its orders and
+// its answers: "Oakvale (12)".
+std::string settlementBoxText(const World &world, long long number);
+
 } // namespace wayscribe

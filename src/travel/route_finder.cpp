@@ -67,8 +67,7 @@ std::string routeText(const JourneyTable &table, RouteMode mode, RouteEnds ends,
 std::string failureText(const World &world, const std::string &from, const std::string &to,
                         const ClosestSettlement &closest)
 {
-    const std::string name =
-        std::string(settlementNameOf(world, closest.number)) + " (" + formatPlain(closest.number) + ")";
+    const std::string name = settlementBoxText(world, closest.number);
     return "No routes found from " + from + " to " + to +
            ".\r\n\r\nThe closest settlement to your destination was calculated as:\r\n" + name +
            " with a rough distance of " + formatPlain(closest.distance) + " sectors from " + to +
@@ -79,6 +78,15 @@ std::string failureText(const World &world, const std::string &from, const std::
 }
 
 } // namespace
+
+std::vector<std::string> routeBoxItems(const World &world)
+{
+    std::vector<std::string> items;
+    for (int n = 1; n <= kMaxSettlements; ++n)
+        if (world.settlement(n).inUse == 1)
+            items.push_back(settlementBoxText(world, n));
+    return items;
+}
 
 std::optional<std::string> findRoutes(const World &world, ProgramState &state, Platform &platform,
                                       const std::string &fromText, const std::string &toText)

@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace wayscribe {
 
@@ -13,6 +14,9 @@ class Platform;
 
 // The most journeys a written route holds.
 inline constexpr int kMaxRouteHops = 149;
+
+// What the boxes offer: every settlement in use, in number order.
+std::vector<std::string> routeBoxItems(const World &world);
 
 // The travel agency: finds the cheapest and then the shortest chain of
 // journeys between the settlements named in the two boxes (texts such as
