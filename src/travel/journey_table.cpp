@@ -20,9 +20,8 @@ std::string zeroPriceMessage(int settlement, int shop)
 {
     return "There seems to be a problem with the price of a journey \r\nitem in settlement #" +
            formatPlain(settlement) + ", shop #" + formatPlain(shop) +
-           ".\r\nThe cost has been counted as 1 in these calculations, \r\nbut you should correct this as "
-           "soon as "
-           "possible for \r\naccurate journey plans.";
+           ".\r\nThe cost has been counted as 1 in these calculations, \r\n"
+           "but you should correct this as soon as possible for \r\naccurate journey plans.";
 }
 
 // The settlement number between the first "(" and the first ")". A ")"
@@ -59,7 +58,8 @@ std::string_view settlementNameOf(const World &world, long long number)
     if (!isSettlementNumber(number))
         return {};
     const Settlement &s = world.settlement(static_cast<int>(number));
-    // A free settlement stands at (0, 0), whose sector never holds a name.
+    // A free settlement stands at (0, 0), a sector that never holds a name;
+    // a broken file may place one beyond the map.
     if (s.x > kMapSize || s.y > kMapSize)
         return {};
     return world.sector(s.x, s.y).settlementName;

@@ -19,7 +19,7 @@ const std::string kZeroPrice =
     "should correct this as soon as possible for \r\naccurate journey plans.";
 
 class RouteFinder : public ::testing::Test {
-  protected:
+protected:
     std::unique_ptr<World> world = std::make_unique<World>();
     ProgramState state;
     ScriptedPlatform platform;
@@ -277,4 +277,23 @@ TEST_F(RouteFinder, DearJourneysAddUpBeyondSixteenBits)
         text->find("Shortest Route:\r\nB 99 1 4 @ 30000gp to get to Echo (5)\r\nB 99 1 5 @ 30000gp to get "
                    "to Delta (4)\r\nTotal cost to reach destination:  60000 gp"),
         std::string::npos);
+}
+
+TEST_F(RouteFinder, WarnsOnceEveryCheckedSourceSellsTheWayToOnePlace)
+{
+    // Settlements 1..110 all sell the way to 112; one more journey there
+    // overflows the original table and is reported in each run.
+    settle(112, "Hub", 100, 100);
+    for (int n = 1; n <= 111; ++n) {
+        settle(n, "Spoke" + std::to_string(n), n, 1);
+        sell(n, 1, 1, "To the hub (112)", "1", "3");
+    }
+    EXPECT_NE(find("Spoke1 (1)", "Hub (112)")->find("Finished."), std::string::npos);
+    ASSERT_EQ(platform.messages.size(), 2u);
+    EXPECT_EQ(platform.messages[1].text,
+              "Warning! Error! Increase 99 value for 'Cost to' variable! Please report this bug ASAP!");
+    platform.messages.clear();
+    world->setItem(111, 1, 1, ItemField::Name, "");
+    find("Spoke1 (1)", "Hub (112)");
+    EXPECT_TRUE(platform.messages.empty());
 }
