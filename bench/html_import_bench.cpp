@@ -28,7 +28,7 @@ using wayscribe::test::ReportShape;
 // Answers every question Yes and counts how often the import lets the
 // interface process events.
 class CountingPlatform : public Platform {
-  public:
+public:
     long events = 0;
     Answer message(const std::string &, const std::string &, MessageButtons, MessageIcon,
                    const std::string &) override

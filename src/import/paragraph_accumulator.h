@@ -11,7 +11,7 @@ namespace wayscribe {
 // is asked for the same few phrases after every line, so it remembers how
 // far it has searched for each phrase: appending costs only the new text.
 class ParagraphAccumulator {
-  public:
+public:
     void append(std::string_view text) { text_.append(text); }
     void clear();
     // Replaces the text (a cut of itself is allowed).
@@ -23,7 +23,7 @@ class ParagraphAccumulator {
 
     const std::string &text() const { return text_; }
 
-  private:
+private:
     struct Search {
         std::string phrase;
         std::size_t found = std::string::npos;

@@ -18,7 +18,7 @@ struct ReportFailure {
 // One turn report, read either as whole lines or as comma-separated fields
 // from the same position, as the importer's read modes require.
 class ReportReader {
-  public:
+public:
     // Loads the report; false with `error` filled when it cannot be read.
     bool open(const std::string &path, FileError &error);
 
@@ -45,7 +45,7 @@ class ReportReader {
     // The line on which the text last read began.
     long line() const { return line_; }
 
-  private:
+private:
     std::string path_;
     std::string content_;
     CsvReader reader_{std::string_view{}};

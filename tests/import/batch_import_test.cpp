@@ -23,7 +23,7 @@ std::string paintingReport(const std::string &terrain, const std::string &hide,
 } // namespace
 
 class BatchImport : public ImportTest {
-  protected:
+protected:
     std::string folder() const { return dir.path().string() + "/"; }
     BatchOutcome importFolder() { return importHtmlFolder(*world, state, platform, folder()); }
 };

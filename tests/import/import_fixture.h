@@ -20,7 +20,7 @@ inline std::string reportPath(const std::string &name)
 
 // A fresh world and a view of 40 x 30 sectors for each test.
 class ImportTest : public ::testing::Test {
-  protected:
+protected:
     ImportTest()
     {
         state.viewCols = 40;
