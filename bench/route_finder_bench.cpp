@@ -19,7 +19,7 @@ using namespace wayscribe;
 namespace {
 
 class SilentPlatform : public Platform {
-  public:
+public:
     Answer message(const std::string &, const std::string &, MessageButtons, MessageIcon,
                    const std::string &) override
     {
@@ -43,14 +43,14 @@ class SilentPlatform : public Platform {
 // A small linear congruential generator, so that the network is the same on
 // every machine.
 class Lcg {
-  public:
+public:
     int below(int n)
     {
         state_ = state_ * 6364136223846793005ULL + 1442695040888963407ULL;
         return static_cast<int>((state_ >> 33) % static_cast<unsigned long long>(n));
     }
 
-  private:
+private:
     unsigned long long state_ = 20240601;
 };
 
@@ -177,7 +177,7 @@ BENCHMARK_CAPTURE(wholeSearch, reachable, true)->Name("real/whole_reachable")->U
 // Collects the processor time per iteration of every run, for the ratios at
 // the end (steadier than the wall clock on a busy machine).
 class CollectingReporter : public benchmark::ConsoleReporter {
-  public:
+public:
     std::map<std::string, double> times;
 
     void ReportRuns(const std::vector<Run> &runs) override

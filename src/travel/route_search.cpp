@@ -27,7 +27,7 @@ namespace {
 constexpr int kMaxDepartures = (kMaxSettlements + 1) * kJourneysPerSettlement;
 
 template <int Bits> class BitSet {
-  public:
+public:
     void set(int i)
     {
         words_[i / 64] |= bit(i);
@@ -55,7 +55,7 @@ template <int Bits> class BitSet {
         lowest_ = std::max(lowest_, std::min(end, Bits));
     }
 
-  private:
+private:
     static constexpr int kWords = (Bits + 63) / 64;
     static std::uint64_t bit(int i) { return std::uint64_t{1} << (i % 64); }
 
@@ -95,7 +95,7 @@ struct Departure {
 };
 
 class PoolSearch {
-  public:
+public:
     PoolSearch(const JourneyTable &table, RouteMode mode, RouteEnds ends, ClosestSettlement &closest,
                RouteSearchResult &result)
         : table_(table), mode_(mode), ends_(ends), closest_(closest), result_(result),
@@ -131,7 +131,7 @@ class PoolSearch {
         }
     }
 
-  private:
+private:
     // Returns true when the goal is reached.
     bool arrive(const Moment &at, int d, int from)
     {

@@ -28,7 +28,7 @@ struct NetworkShape {
 };
 
 class RandomNetwork {
-  public:
+public:
     explicit RandomNetwork(unsigned seed) : rng_(seed) {}
 
     int below(int n) { return static_cast<int>(rng_() % static_cast<unsigned>(n)); }
@@ -69,7 +69,7 @@ class RandomNetwork {
         return pick == 0 ? 0 : pick == 1 ? kMaxSettlements + 5 : 1 + below(settlements);
     }
 
-  private:
+private:
     std::string journeyName(const NetworkShape &shape, bool odd)
     {
         const int d = 1 + below(shape.settlements);

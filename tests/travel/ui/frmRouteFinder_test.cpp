@@ -41,7 +41,10 @@ private slots:
     {
         world = std::make_unique<World>();
         settle(12, "Oakvale", 10, 10);
-        settle(3, "Br\xFC" "ckenau", 20, 10); // the model holds Windows-1252
+        settle(3,
+               "Br\xFC"
+               "ckenau",
+               20, 10); // the model holds Windows-1252
         settle(40, "Sandmere", 60, 40);
         world->settlement(7).inUse = 0; // a free number is not offered
         world->setItem(12, 2, 1, ItemField::Name, "Passage (3)");
