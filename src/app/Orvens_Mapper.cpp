@@ -12,6 +12,7 @@
 #include "storage/map_commands.h"
 #include "storage/options_file.h"
 #include "storage/questor_import.h"
+#include "travel/ui/frmRouteFinder.h"
 #include "view/draw/map_drawing.h"
 #include "view/minimap_geometry.h"
 #include "view/map_tools.h"
@@ -588,6 +589,12 @@ void Orvens_Mapper::mnuViewGoto_Click()
 void Orvens_Mapper::mnuInformationPercent_Click()
 {
     mapStatisticsCommand(world_, platform_);
+}
+
+void Orvens_Mapper::mnuInformationTravel_Click()
+{
+    if (!state_.fileBusy)
+        openSecondary(new frmRouteFinder(world_, state_, platform_, this));
 }
 
 void Orvens_Mapper::mnuHelpAbout_Click()

@@ -92,6 +92,7 @@ private:
     void mnuEditWater_Click();
     void mnuViewGoto_Click();
     void mnuInformationPercent_Click();
+    void mnuInformationTravel_Click();
     void mnuHelpAbout_Click();
     void hscroll_Change(int value);
     void vscroll_Change(int value);

@@ -52,7 +52,7 @@ void Orvens_Mapper::buildMenus()
     addLaterItem(info, "mnuInfoSett", "&Settlement Database");
     addLaterItem(info, "mnuInfoDungeon", "&Dungeon Database");
     info->addSeparator()->setObjectName("mnuInformationLine");
-    addLaterItem(info, "mnuInformationTravel", "&Travel Agency");
+    addMenuItem(info, "mnuInformationTravel", "&Travel Agency", &Orvens_Mapper::mnuInformationTravel_Click);
 
     QMenu *graphics = menuBar()->addMenu("Graphics");
     graphics->setObjectName("mnuGraphics");

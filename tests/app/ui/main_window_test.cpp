@@ -8,6 +8,7 @@
 #include "view/ui/minimap_widget.h"
 
 #include <QAction>
+#include <QMenuBar>
 #include <QScrollBar>
 #include <QTest>
 #include <QToolButton>
@@ -275,6 +276,26 @@ private slots:
         QCOMPARE(road.copy(west), isolated.copy(west));
         // Settlements draw no lines of their own.
         QCOMPARE(h.tileAt(3, 2), h.sheetEntry(16));
+    }
+
+    void theTravelAgencyDisablesTheMainWindowWhileOpen()
+    {
+        Harness h;
+        h.start();
+        h.state.fileBusy = 1;
+        h.find<QAction>("mnuInformationTravel")->trigger();
+        QVERIFY(h.window->centralWidget()->isEnabled());
+        h.state.fileBusy = 0;
+        h.find<QAction>("mnuInformationTravel")->trigger();
+        QWidget *finder = h.window->findChild<QWidget *>("frmRouteFinder");
+        QVERIFY(finder);
+        QVERIFY(finder->isVisible());
+        QVERIFY(!h.window->centralWidget()->isEnabled());
+        QVERIFY(!h.window->menuBar()->isEnabled());
+        QVERIFY(finder->isEnabled());
+        finder->close();
+        QTRY_VERIFY(h.window->centralWidget()->isEnabled());
+        QVERIFY(h.window->menuBar()->isEnabled());
     }
 
     void notesShowDungeonIconsOnlyWithTheExtraOption()
