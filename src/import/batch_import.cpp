@@ -17,12 +17,11 @@ namespace {
 
 constexpr const char *kBatchStatus = "Please wait, batch importing HTML turns...";
 
-// Extensions compare without regard to case, as the desktop's own file
-// name matching does; ".htm" does not take in ".html".
+// Extensions match exactly, case included, so that a folder is read the
+// same on every system; ".htm" does not take in ".html".
 bool hasExtension(const std::string &name, std::string_view extension)
 {
-    return name.size() > extension.size() &&
-           equalsIgnoreCase(std::string_view(name).substr(name.size() - extension.size()), extension);
+    return name.size() > extension.size() && std::string_view(name).substr(name.size() - extension.size()) == extension;
 }
 
 std::string withSeparator(std::string folder)

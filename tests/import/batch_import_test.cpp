@@ -41,19 +41,18 @@ TEST_F(BatchImport, HtmFilesFirstThenHtmlEachInNameOrder)
     std::vector<std::string> files;
     std::string error;
     ASSERT_TRUE(reportFilesInFolder(folder(), files, error));
-    EXPECT_EQ(files, (std::vector<std::string>{folder() + "D.HTM", folder() + "b.htm", folder() + "c.htm",
-                                               folder() + "a.html"}));
+    EXPECT_EQ(files, (std::vector<std::string>{folder() + "b.htm", folder() + "c.htm", folder() + "a.html"}));
 
     state.viewLeft = 12;
     const BatchOutcome outcome = importFolder();
-    EXPECT_EQ(outcome.imported, 4);
+    EXPECT_EQ(outcome.imported, 3);
     const std::string wait = "Please wait, batch importing HTML turns...";
-    EXPECT_EQ(platform.statuses,
-              (std::vector<std::string>{wait, wait + " file 1 of 4, D.HTM", wait + " file 2 of 4, b.htm",
-                                        wait + " file 3 of 4, c.htm", wait + " file 4 of 4, a.html", ""}));
+    EXPECT_EQ(platform.statuses, (std::vector<std::string>{wait, wait + " file 1 of 3, b.htm",
+                                                           wait + " file 2 of 3, c.htm",
+                                                           wait + " file 3 of 3, a.html", ""}));
     // Later reports overwrite the terrain; only the first note finds the sector empty.
     EXPECT_EQ(at(51, 50).terrain, 6);
-    EXPECT_EQ(at(50, 50).note, "D.");
+    EXPECT_EQ(at(50, 50).note, "B.");
     EXPECT_EQ(state.viewLeft, 12);
     EXPECT_EQ(platform.redraws, 1);
     EXPECT_EQ(state.fileBusy, 0);
