@@ -6,7 +6,7 @@
 
 #include "import/batch_import.h"
 #include "import/report_import.h"
-#include "model/platform.h"
+#include "model/quiet_platform.h"
 #include "model/program_state.h"
 #include "model/text.h"
 #include "model/world.h"
@@ -27,27 +27,10 @@ using wayscribe::test::ReportShape;
 
 // Answers every question Yes and counts how often the import lets the
 // interface process events.
-class CountingPlatform : public Platform {
+class CountingPlatform : public QuietPlatform {
 public:
     long events = 0;
-    Answer message(const std::string &, const std::string &, MessageButtons, MessageIcon,
-                   const std::string &) override
-    {
-        return Answer::Yes;
-    }
-    std::string inputBox(const std::string &, const std::string &, const std::string &) override
-    {
-        return {};
-    }
-    std::string chooseOpenFile(const FileDialogRequest &) override { return {}; }
-    std::string chooseSaveFile(const FileDialogRequest &) override { return {}; }
-    std::string chooseFolder(const std::string &, const std::string &) override { return {}; }
-    void setClipboardText(const std::string &) override {}
-    void setStatus(const std::string &) override {}
-    void setWaitCursor(bool) override {}
     void processEvents() override { ++events; }
-    void redrawMap() override {}
-    void mapLockChanged() override {}
 };
 
 const char *const kTerrains[] = {"Water",        "Open",   "Fields", "Rough",    "Forest",

@@ -2,7 +2,7 @@
 // items each, every tenth item special), against just reading its two files.
 #include "../tests/storage/questor_writer.h"
 
-#include "model/platform.h"
+#include "model/quiet_platform.h"
 #include "model/program_state.h"
 #include "model/world.h"
 #include "storage/questor_import.h"
@@ -17,28 +17,6 @@
 using namespace wayscribe;
 
 namespace {
-
-class SilentPlatform : public Platform {
-  public:
-    Answer message(const std::string &, const std::string &, MessageButtons, MessageIcon,
-                   const std::string &) override
-    {
-        return Answer::Ok;
-    }
-    std::string inputBox(const std::string &, const std::string &, const std::string &) override
-    {
-        return {};
-    }
-    std::string chooseOpenFile(const FileDialogRequest &) override { return {}; }
-    std::string chooseSaveFile(const FileDialogRequest &) override { return {}; }
-    std::string chooseFolder(const std::string &, const std::string &) override { return {}; }
-    void setClipboardText(const std::string &) override {}
-    void setStatus(const std::string &) override {}
-    void setWaitCursor(bool) override {}
-    void processEvents() override {}
-    void redrawMap() override {}
-    void mapLockChanged() override {}
-};
 
 constexpr int kShopsPerSettlement = 15;
 
@@ -97,7 +75,7 @@ void BM_ImportFullQuestorMap(benchmark::State &bench)
     const FullQuestorMap &files = fullMap();
     auto world = std::make_unique<World>();
     ProgramState state;
-    SilentPlatform platform;
+    QuietPlatform platform;
     for (auto _ : bench) {
         const QuestorImportResult result = readQuestorMap(files.mp1Path, *world, state, platform);
         if (!result.ok)

@@ -3,7 +3,7 @@
 // entries on every tick, for a reachable and an unreachable goal.
 #include "literal_route_search.h"
 
-#include "model/platform.h"
+#include "model/quiet_platform.h"
 #include "model/program_state.h"
 #include "model/world.h"
 #include "travel/route_finder.h"
@@ -17,28 +17,6 @@
 using namespace wayscribe;
 
 namespace {
-
-class SilentPlatform : public Platform {
-public:
-    Answer message(const std::string &, const std::string &, MessageButtons, MessageIcon,
-                   const std::string &) override
-    {
-        return Answer::Ok;
-    }
-    std::string inputBox(const std::string &, const std::string &, const std::string &) override
-    {
-        return {};
-    }
-    std::string chooseOpenFile(const FileDialogRequest &) override { return {}; }
-    std::string chooseSaveFile(const FileDialogRequest &) override { return {}; }
-    std::string chooseFolder(const std::string &, const std::string &) override { return {}; }
-    void setClipboardText(const std::string &) override {}
-    void setStatus(const std::string &) override {}
-    void setWaitCursor(bool) override {}
-    void processEvents() override {}
-    void redrawMap() override {}
-    void mapLockChanged() override {}
-};
 
 // A small linear congruential generator, so that the network is the same on
 // every machine.
@@ -113,7 +91,7 @@ const JourneyTable &journeyTable()
 {
     static const std::unique_ptr<JourneyTable> table = [] {
         auto t = std::make_unique<JourneyTable>();
-        SilentPlatform platform;
+        QuietPlatform platform;
         buildJourneyTable(*network().world, platform, *t);
         return t;
     }();
@@ -164,7 +142,7 @@ void wholeSearch(benchmark::State &state, bool reachable)
 {
     const int goal = reachable ? network().farGoal : kUnreachable;
     ProgramState programState;
-    SilentPlatform platform;
+    QuietPlatform platform;
     for (auto _ : state)
         benchmark::DoNotOptimize(findRoutes(*network().world, programState, platform,
                                             JourneyNetwork::box(kStart), JourneyNetwork::box(goal)));
@@ -191,7 +169,7 @@ public:
 bool sameResults(int goal)
 {
     ProgramState state;
-    SilentPlatform platform;
+    QuietPlatform platform;
     const auto from = JourneyNetwork::box(kStart), to = JourneyNetwork::box(goal);
     const auto real = findRoutes(*network().world, state, platform, from, to);
     const auto literal =

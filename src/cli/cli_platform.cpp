@@ -19,7 +19,7 @@ Answer CliPlatform::message(const std::string &text, const std::string &, Messag
         err_ << detail << '\n';
     if (buttons == MessageButtons::Ok)
         return Answer::Ok;
-    return answer_;
+    return answer();
 }
 
 } // namespace wayscribe

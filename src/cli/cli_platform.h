@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/platform.h"
+#include "model/quiet_platform.h"
 
 #include <iosfwd>
 
@@ -9,13 +9,19 @@ namespace wayscribe {
 // The platform of the command-line tool: what the desktop program would show
 // in a message box goes to standard error, questions get a fixed answer, and
 // nothing is ever chosen in a file dialog.
-class CliPlatform : public Platform {
+class CliPlatform : public QuietPlatform {
 public:
-    explicit CliPlatform(std::ostream &err, Answer answer = Answer::Yes) : err_(err), answer_(answer) {}
+    explicit CliPlatform(std::ostream &err, Answer answer = Answer::Yes) : QuietPlatform(answer), err_(err) {}
 
     Answer message(const std::string &text, const std::string &title, MessageButtons buttons, MessageIcon icon,
                    const std::string &detail = {}) override;
-    std::string inputBox(const std::string &, const std::string &, const std::string &) override { return {}; }
+
+    int messageCount() const { return messages_; }
+
+private:
+    std::ostream &err_;
+    int messages_ = 0;
+}; }
     std::string chooseOpenFile(const FileDialogRequest &) override { return {}; }
     std::string chooseSaveFile(const FileDialogRequest &) override { return {}; }
     std::string chooseFolder(const std::string &, const std::string &) override { return {}; }
