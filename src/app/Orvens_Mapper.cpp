@@ -23,6 +23,7 @@
 #include "view/ui/terrain_palette.h"
 #include "view/view_navigation.h"
 
+#include <QCheckBox>
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QFormLayout>
@@ -33,6 +34,8 @@
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QTimer>
@@ -84,7 +87,7 @@ Orvens_Mapper::Orvens_Mapper(World &world, ProgramState &state, Platform &platfo
     buildCentre();
     buildMenus();
     buildToolbar();
-    resize(1180, 800);
+    resize(1180, 760);
 }
 
 Orvens_Mapper::~Orvens_Mapper() = default;
@@ -111,7 +114,8 @@ void Orvens_Mapper::buildCentre()
     row->addLayout(mapArea, 1);
 
     auto *side = new QVBoxLayout;
-    side->setSpacing(8);
+    side->setContentsMargins(0, 0, 0, 0);
+    side->setSpacing(4);
     MiniMap = new MinimapWidget(centre);
     side->addWidget(MiniMap, 0, Qt::AlignHCenter);
 
@@ -142,7 +146,7 @@ void Orvens_Mapper::buildCentre()
     txtNoteBox->setObjectName("txtNoteBox");
     txtNoteBox->setAccessibleName("Note");
     txtNoteBox->setReadOnly(true);
-    txtNoteBox->setMinimumHeight(70);
+    txtNoteBox->setMinimumHeight(48);
     form->addRow("Note:", txtNoteBox);
     side->addWidget(info, 1);
 
@@ -155,6 +159,13 @@ void Orvens_Mapper::buildCentre()
     moveForm->addRow("Sector:", mpbox);
     moveForm->addRow("Squares:", mpcbox);
     moveForm->addRow("Total:", txtTotalMPs);
+    auto *chkHorses = new QCheckBox("Enable Horse Counter", moves);
+    chkHorses->setObjectName("chkHorses");
+    moveForm->addRow(chkHorses);
+    auto *cmdMPCommandClipboard = new QPushButton("Copy MP \"M\" command(s)\nto clipboard for pasting", moves);
+    cmdMPCommandClipboard->setObjectName("cmdMPCommandClipboard");
+    cmdMPCommandClipboard->setAccessibleName("Copy MP \"M\" command(s) to clipboard for pasting");
+    moveForm->addRow(cmdMPCommandClipboard);
     // The movement counter is not part of this version yet.
     moves->setEnabled(false);
     side->addWidget(moves);
@@ -167,10 +178,18 @@ void Orvens_Mapper::buildCentre()
     palette_->setEnabled(false);
     side->addWidget(paint);
 
-    auto *sideWidget = new QWidget(centre);
+    auto *sideWidget = new QWidget;
     sideWidget->setLayout(side);
-    sideWidget->setFixedWidth(std::max(MiniMap->sizeHint().width() + 40, 260));
-    row->addWidget(sideWidget);
+    // On a small screen the panels scroll rather than push the window off it.
+    auto *sideScroll = new QScrollArea(centre);
+    sideScroll->setObjectName("sidePanel");
+    sideScroll->setWidget(sideWidget);
+    sideScroll->setWidgetResizable(true);
+    sideScroll->setFrameShape(QFrame::NoFrame);
+    sideScroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    sideScroll->setFixedWidth(std::max(MiniMap->sizeHint().width() + 40, 260) +
+                              sideScroll->verticalScrollBar()->sizeHint().width());
+    row->addWidget(sideScroll);
     setCentralWidget(centre);
 
     txtStatus = new QLabel(this);

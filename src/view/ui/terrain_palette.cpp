@@ -23,7 +23,7 @@ TerrainPalette::TerrainPalette(QWidget *parent) : QWidget(parent)
         const QString name = toQString(terrainName(i + 1));
         b->setObjectName(QString("iconselect_%1").arg(i));
         b->setCheckable(true);
-        b->setIconSize(QSize(24, 24));
+        b->setIconSize(QSize(20, 20));
         b->setToolTip(name);
         b->setAccessibleName(name);
         b->setAutoRaise(true);
@@ -40,7 +40,7 @@ void TerrainPalette::showTiles(const TileSheet &sheet)
         if (tile.isNull())
             continue;
         // The tiles keep their colours also while painting is not available.
-        const QPixmap pixmap = QPixmap::fromImage(tile.scaled(24, 24, Qt::IgnoreAspectRatio, Qt::FastTransformation));
+        const QPixmap pixmap = QPixmap::fromImage(tile.scaled(20, 20, Qt::IgnoreAspectRatio, Qt::FastTransformation));
         QIcon icon(pixmap);
         icon.addPixmap(pixmap, QIcon::Disabled);
         buttons_[i]->setIcon(icon);
