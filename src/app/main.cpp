@@ -8,6 +8,7 @@
 #include "storage/map_commands.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <QFileInfo>
 
 #include <memory>
@@ -23,6 +24,9 @@ int main(int argc, char **argv)
     wayscribe::QtPlatform platform;
     wayscribe::Orvens_Mapper window(*world, state, platform, wayscribe::locateAppPaths());
     platform.attach(&window);
+    // As large as a comfortable window gets, and never larger than the screen.
+    const QSize screen = QGuiApplication::primaryScreen()->availableGeometry().size();
+    window.resize(QSize(1280, 880).boundedTo(screen * 0.95));
     window.show();
     if (!window.startUp())
         return 1;
