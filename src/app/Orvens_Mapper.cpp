@@ -425,6 +425,7 @@ void Orvens_Mapper::openSecondary(QWidget *window, bool redrawAfter)
             redrawMap();
     });
     window->setAttribute(Qt::WA_DeleteOnClose);
+    window->move(geometry().center() - window->rect().center());
     window->show();
     window->raise();
     window->activateWindow();
