@@ -96,12 +96,14 @@ void readSettlementSection(ReportImport &im, std::string_view heading)
     if (!im.state.options.importShops)
         return;
     ReportState &r = im.report;
-    const std::string lower = changeCase(heading, false);
-    if (contains(lower, "town"))
+    // Only the heading's lower-case kind words move the party to another
+    // cell; the game writes the kind itself in capitals, so normally the
+    // party stays on the last settlement cell it was seen on.
+    if (contains(heading, "town"))
         r.party = r.town;
-    if (contains(lower, "village"))
+    if (contains(heading, "village"))
         r.party = r.village;
-    if (contains(lower, "city"))
+    if (contains(heading, "city"))
         r.party = r.city;
     // Without a map cell showing the party on a settlement its sector is
     // unknown, and nothing is placed relative to it.

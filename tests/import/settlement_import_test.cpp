@@ -68,6 +68,26 @@ TEST_F(SettlementImport, CitiesSkipThreeLinesAfterTheHeadingOthersTwo)
     EXPECT_EQ(item(21, 9, 1, ItemField::Name), "Decoy");
 }
 
+TEST_F(SettlementImport, OnlyLowerCaseKindWordsMoveThePartyToAnotherCell)
+{
+    // "CITYGATE" is no "city": the party stays on the town cell it was seen on.
+    ReportShape shape;
+    shape.map = {{"Party and Town"}};
+    shape.heading = "TOWN OF CITYGATE (30)";
+    shape.afterHeading = {"", ""};
+    readText(reportText(shape));
+    EXPECT_EQ(world->settlement(30).x, 45);
+    EXPECT_EQ(at(45, 67).settlementName, "Citygate ");
+
+    // The name's "town" is: the party goes to the town cell, though the city came first.
+    shape.map = {{"Party and City", "Party and Town"}};
+    shape.heading = "CITY OF Ashtown (5)";
+    shape.afterHeading = {"", "", ""};
+    readText(reportText(shape));
+    EXPECT_EQ(world->settlement(5).x, 46);
+    EXPECT_EQ(world->settlement(5).y, 67);
+}
+
 TEST_F(SettlementImport, AnotherSettlementOfTheNumberAsksFirst)
 {
     auto placeOldtown = [this] {
