@@ -22,7 +22,9 @@ bool isShopHeader(std::string_view field)
 {
     if (field.empty() || field[0] < '0' || field[0] > '9')
         return false;
-    return field[0] != '5' || (field.size() > 1 && field[1] != ' ');
+    // Only a blank right after a leading "5" keeps it from opening a shop;
+    // a lone "5" has nothing after it, so it opens one.
+    return field[0] != '5' || field.size() < 2 || field[1] != ' ';
 }
 
 // Only the officials' shop 0 takes rows; other shops have a number.

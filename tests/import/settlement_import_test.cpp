@@ -155,6 +155,21 @@ TEST_F(SettlementImport, EldersQuestsAndRowsBeyondTheTwentieth)
     EXPECT_EQ(world->settlement(99).x, 45);
 }
 
+TEST_F(SettlementImport, AFieldOfJustFiveOpensAShopAsAnyOtherDigit)
+{
+    ReportShape shape;
+    shape.map = {{"Party and Town"}};
+    shape.heading = "TOWN OF BAKEWELL (30)";
+    shape.afterHeading = {"", ""};
+    shape.shops = {shopHeader("4", "BAKER", tableRow("401", "Bread", "2")), "5  FOLLOWS NO SHOP",
+                   tableRow("402", "Bun", "1"), "5", tableRow("403", "Cake", "3")};
+    readText(reportText(shape));
+    EXPECT_EQ(item(30, 4, 2, ItemField::Name), "Bun");
+    // "5" has no blank after it: shop 0, which is not the officials', takes no rows.
+    EXPECT_EQ(item(30, 4, 3, ItemField::Name), "");
+    EXPECT_EQ(item(30, 0, 1, ItemField::Name), "");
+}
+
 TEST(ItemRows, TheThreeKindsOfRow)
 {
     ReportReader in;
