@@ -54,8 +54,8 @@ void storeSighting(ReportImport &im, const DungeonSighting &sighting, const char
         return;
     const long x = im.report.party.x + sighting.offsetX;
     const long y = im.report.party.y + sighting.offsetY;
-    if (!isSectorIndex(static_cast<int>(std::clamp<long>(x, -1, kMapSize + 1))) ||
-        !isSectorIndex(static_cast<int>(std::clamp<long>(y, -1, kMapSize + 1))))
+    // A dungeon beyond the world's edge has no sector to carry its note.
+    if (!inSectorTable({x, y}))
         return;
     std::string &note = im.world.sector(static_cast<int>(x), static_cast<int>(y)).note;
     if (note.empty())

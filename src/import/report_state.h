@@ -1,12 +1,12 @@
 #pragma once
 
 #include "import/paragraph_accumulator.h"
+#include "model/world.h"
 
 #include <string>
 
 namespace wayscribe {
 
-class World;
 struct ProgramState;
 class Platform;
 class ReportReader;
@@ -30,6 +30,14 @@ struct SectorPosition {
     long x = 0;
     long y = 0;
 };
+
+// The sector tables have a row and a column 0, never shown and never saved;
+// a party that was not seen on a settlement cell stands at 0,0, and what is
+// placed from it lands there.
+inline bool inSectorTable(const SectorPosition &p)
+{
+    return p.x >= 0 && p.x <= kMapSize && p.y >= 0 && p.y <= kMapSize;
+}
 
 // What the importer keeps while it reads one report; cleared for every file.
 struct ReportState {

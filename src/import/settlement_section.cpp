@@ -18,11 +18,6 @@ namespace wayscribe {
 
 namespace {
 
-bool inWorld(const SectorPosition &p)
-{
-    return p.x >= 1 && p.x <= kMapSize && p.y >= 1 && p.y <= kMapSize;
-}
-
 struct SettlementHeading {
     std::string name;
     long number = 0;
@@ -68,7 +63,7 @@ bool confirmPlacement(ReportImport &im, const SettlementHeading &s, const Sector
 void placeSettlement(ReportImport &im, const SettlementHeading &s, const SectorPosition &party)
 {
     Settlement &record = im.world.settlement(static_cast<int>(s.number));
-    if (isSectorIndex(record.x) && isSectorIndex(record.y)) {
+    if (inSectorTable({record.x, record.y})) {
         Sector &old = im.world.sector(record.x, record.y);
         old.settlementName.clear();
         old.settlementNumber = 0;
@@ -105,9 +100,8 @@ void readSettlementSection(ReportImport &im, std::string_view heading)
         r.party = r.village;
     if (contains(heading, "city"))
         r.party = r.city;
-    // Without a map cell showing the party on a settlement its sector is
-    // unknown, and nothing is placed relative to it.
-    const bool placed = inWorld(r.party);
+    // Only a party cell past the world's edge has no sector at all.
+    const bool placed = inSectorTable(r.party);
 
     if (im.state.options.importDungeons && placed)
         storeSightedDungeons(im);

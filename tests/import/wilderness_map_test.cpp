@@ -97,9 +97,13 @@ TEST_F(WildernessMap, CellsPastTheWorldsEdgeAreSkippedAndTheViewStaysInside)
     EXPECT_EQ(state.viewTop, 1);
 }
 
-TEST_F(WildernessMap, APartyOnWaterIsNoSettlementPosition)
+TEST_F(WildernessMap, APartyOnWaterLeavesThePartyPositionAtZero)
 {
     ReportShape shape;
+    shape.prose = {
+        "Scouts reckon that a unit of creatures is holed up in the Deep Well , 4 sectors south and 2 "
+        "sectors east of here.",
+        "We're in the town.", "Hides (@ 3 gp): Three gp."};
     shape.map = {{"Party and Water", "Party and Heavy Forest"}};
     shape.heading = "TOWN OF NOWHERE (30)";
     shape.afterHeading = {"", ""};
@@ -107,8 +111,15 @@ TEST_F(WildernessMap, APartyOnWaterIsNoSettlementPosition)
     readText(reportText(shape));
     EXPECT_EQ(at(45, 67).terrain, 2);
     EXPECT_EQ(at(46, 67).terrain, 7);
-    // Where the party stands is unknown: nothing is placed, the shop is read.
-    EXPECT_EQ(world->settlement(30).inUse, 0);
+    // No settlement cell was seen: the party is at 0,0, the unused corner of
+    // the tables, and everything placed from it is placed from there.
+    EXPECT_EQ(world->settlement(30).inUse, 1);
+    EXPECT_EQ(world->settlement(30).x, 0);
+    EXPECT_EQ(world->settlement(30).y, 0);
+    EXPECT_EQ(at(0, 0).settlementName, "Nowhere ");
+    EXPECT_EQ(at(0, 0).note, "Three gp.");
+    EXPECT_EQ(at(2, 4).note, "DUNGEON: Deep Well.  1+ levels.");
+    EXPECT_EQ(world->dungeon(1).name, "Deep Well");
     EXPECT_EQ(item(30, 4, 1, ItemField::Name), "Bread");
 }
 
