@@ -21,23 +21,6 @@ public:
 private:
     std::ostream &err_;
     int messages_ = 0;
-}; }
-    std::string chooseOpenFile(const FileDialogRequest &) override { return {}; }
-    std::string chooseSaveFile(const FileDialogRequest &) override { return {}; }
-    std::string chooseFolder(const std::string &, const std::string &) override { return {}; }
-    void setClipboardText(const std::string &) override {}
-    void setStatus(const std::string &) override {}
-    void setWaitCursor(bool) override {}
-    void processEvents() override {}
-    void redrawMap() override {}
-    void mapLockChanged() override {}
-
-    int messageCount() const { return messages_; }
-
-private:
-    std::ostream &err_;
-    Answer answer_;
-    int messages_ = 0;
 };
 
 } // namespace wayscribe
