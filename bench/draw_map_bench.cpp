@@ -52,15 +52,6 @@ struct Scene {
     }
 };
 
-// Time per tile (the minimap's share included) and the reference.
-void addFigures(benchmark::State &bench, const Scene &scene)
-{
-    using benchmark::Counter;
-    bench.counters["per_tile"] = Counter(scene.state.viewCols * scene.state.viewRows,
-                                         Counter::kIsIterationInvariantRate | Counter::kInvert);
-    bench.SetLabel(kReference);
-}
-
 void redraw(benchmark::State &bench, Scene &scene)
 {
     if (!scene.error.empty()) {

@@ -33,11 +33,12 @@ std::string firstLines(const std::string &bytes, long n)
     return bytes.substr(0, at);
 }
 
-std::string replaceLine(const std::string &bytes, long n, const std::string &text)
+std::string replaceLine(std::string bytes, long n, const std::string &text)
 {
-    const std::string head = firstLines(bytes, n - 1);
-    const std::size_t end = bytes.find("\r\n", head.size());
-    return head + text + bytes.substr(end);
+    const std::size_t start = firstLines(bytes, n - 1).size();
+    const std::size_t end = bytes.find("\r\n", start);
+    bytes.replace(start, end - start, text);
+    return bytes;
 }
 
 MapReadResult readInto(const std::string &path, World &w, std::uint8_t &game)
