@@ -1,5 +1,7 @@
 #include "cli/cli_platform.h"
 
+#include "cli/cli.h"
+
 #include <ostream>
 
 namespace wayscribe {
@@ -9,11 +11,7 @@ Answer CliPlatform::message(const std::string &text, const std::string &, Messag
 {
     ++messages_;
     // Texts are written as stored; line breaks inside a message become LF.
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n')
-            continue;
-        err_ << text[i];
-    }
+    cli::writeWithUnixLineEnds(err_, text);
     err_ << '\n';
     if (!detail.empty())
         err_ << detail << '\n';

@@ -89,14 +89,15 @@ std::vector<std::string> routeBoxItems(const World &world)
 }
 
 std::optional<std::string> findRoutes(const World &world, ProgramState &state, Platform &platform,
-                                      const std::string &fromText, const std::string &toText)
+                                      const std::string &fromText, const std::string &toText,
+                                      const RoutesStarted &started)
 {
-    return findRoutesWith(searchRoute, world, state, platform, fromText, toText);
+    return findRoutesWith(searchRoute, world, state, platform, fromText, toText, started);
 }
 
 std::optional<std::string> findRoutesWith(RouteSearchFunction search, const World &world, ProgramState &state,
                                           Platform &platform, const std::string &fromText,
-                                          const std::string &toText)
+                                          const std::string &toText, const RoutesStarted &started)
 {
     if (fromText.empty() || toText.empty())
         return std::nullopt;
@@ -111,6 +112,8 @@ std::optional<std::string> findRoutesWith(RouteSearchFunction search, const Worl
     const RouteEnds ends{boxNumber(fromText), boxNumber(toText)};
 
     std::string text = "Please wait, calculating routes...\r\n";
+    if (started)
+        started(text);
     platform.setWaitCursor(true);
     state.fileBusy = 1;
 

@@ -2,6 +2,7 @@
 
 #include "travel/route_search.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -24,13 +25,17 @@ std::vector<std::string> routeBoxItems(const World &world);
 // whole text of the result box, lines ended by CR LF. Returns nothing, and
 // the result box keeps its text, when a box is empty or malformed (the
 // person is told about the malformed one). FileBusy is set while it runs.
+// `started` receives the text shown while the search runs (the result box
+// shows it before any message about a journey's price can appear).
+using RoutesStarted = std::function<void(const std::string &pleaseWait)>;
 std::optional<std::string> findRoutes(const World &world, ProgramState &state, Platform &platform,
-                                      const std::string &fromText, const std::string &toText);
+                                      const std::string &fromText, const std::string &toText,
+                                      const RoutesStarted &started = {});
 
 // The same with another implementation of the search run, for comparing it
 // with a reference.
 std::optional<std::string> findRoutesWith(RouteSearchFunction search, const World &world, ProgramState &state,
                                           Platform &platform, const std::string &fromText,
-                                          const std::string &toText);
+                                          const std::string &toText, const RoutesStarted &started = {});
 
 } // namespace wayscribe

@@ -138,6 +138,17 @@ TEST_F(RouteFinder, PricesAreRoundedHalvesToEvenAndZeroCountsAsOne)
     EXPECT_EQ(platform.messages[0].title, "Wayscribe");
     EXPECT_EQ(platform.messages[0].buttons, MessageButtons::Ok);
 
+    // The waiting text is shown before the first price message appears.
+    platform.messages.clear();
+    std::size_t messagesWhenStarted = 99;
+    std::string shown;
+    findRoutes(*world, state, platform, "Alpha (1)", "Beta (2)", [&](const std::string &wait) {
+        shown = wait;
+        messagesWhenStarted = platform.messages.size();
+    });
+    EXPECT_EQ(shown, kWait);
+    EXPECT_EQ(messagesWhenStarted, 0u);
+
     // A failing cheapest run makes no second run, so the message comes once.
     platform.messages.clear();
     sell(1, 2, 1, "Odd item (x)", "5", "");

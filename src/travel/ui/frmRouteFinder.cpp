@@ -116,8 +116,12 @@ void frmRouteFinder::setToText(const QString &text)
 
 void frmRouteFinder::cmdFind_Click()
 {
-    const std::optional<std::string> routes = findRoutes(
-        world_, state_, platform_, fromQString(cmbFrom->currentText()), fromQString(cmbTo->currentText()));
+    const std::optional<std::string> routes =
+        findRoutes(world_, state_, platform_, fromQString(cmbFrom->currentText()), fromQString(cmbTo->currentText()),
+                   [this](const std::string &pleaseWait) {
+                       txtRoutes->setPlainText(toQString(replaceAll(pleaseWait, "\r\n", "\n")));
+                       txtRoutes->repaint();
+                   });
     if (routes)
         txtRoutes->setPlainText(toQString(replaceAll(*routes, "\r\n", "\n")));
 }
