@@ -6,8 +6,8 @@
 
 #include "import/batch_import.h"
 #include "import/report_import.h"
-#include "model/quiet_platform.h"
 #include "model/program_state.h"
+#include "model/quiet_platform.h"
 #include "model/text.h"
 #include "model/world.h"
 

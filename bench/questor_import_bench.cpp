@@ -2,8 +2,8 @@
 // items each, every tenth item special), against just reading its two files.
 #include "../tests/storage/questor_writer.h"
 
-#include "model/quiet_platform.h"
 #include "model/program_state.h"
+#include "model/quiet_platform.h"
 #include "model/world.h"
 #include "storage/questor_import.h"
 

@@ -3,8 +3,8 @@
 // entries on every tick, for a reachable and an unreachable goal.
 #include "literal_route_search.h"
 
-#include "model/quiet_platform.h"
 #include "model/program_state.h"
+#include "model/quiet_platform.h"
 #include "model/world.h"
 #include "travel/route_finder.h"
 

@@ -14,8 +14,8 @@
 #include "storage/questor_import.h"
 #include "travel/ui/frmRouteFinder.h"
 #include "view/draw/map_drawing.h"
-#include "view/minimap_geometry.h"
 #include "view/map_tools.h"
+#include "view/minimap_geometry.h"
 #include "view/sector_info.h"
 #include "view/tile_files.h"
 #include "view/ui/map_picture.h"
@@ -162,7 +162,8 @@ void Orvens_Mapper::buildCentre()
     auto *chkHorses = new QCheckBox("Enable Horse Counter", moves);
     chkHorses->setObjectName("chkHorses");
     moveForm->addRow(chkHorses);
-    auto *cmdMPCommandClipboard = new QPushButton("Copy MP \"M\" command(s)\nto clipboard for pasting", moves);
+    auto *cmdMPCommandClipboard =
+        new QPushButton("Copy MP \"M\" command(s)\nto clipboard for pasting", moves);
     cmdMPCommandClipboard->setObjectName("cmdMPCommandClipboard");
     cmdMPCommandClipboard->setAccessibleName("Copy MP \"M\" command(s) to clipboard for pasting");
     moveForm->addRow(cmdMPCommandClipboard);
@@ -347,9 +348,10 @@ bool Orvens_Mapper::loadPictures()
     for (auto &[set, action] : tileSetItems_)
         action->setChecked(set == state_.options.graphicsSetName);
     if (!QFileInfo::exists(toQString(paths_.graphicsFolder + "/note_m.gif"))) {
-        platform_.message("Warning! The new 'note_m.gif' image was not found! Please place this new graphic into "
-                          "the 'graphics\\' folder and re-run Wayscribe!",
-                          kProgramTitle, MessageButtons::Ok, MessageIcon::None);
+        platform_.message(
+            "Warning! The new 'note_m.gif' image was not found! Please place this new graphic into "
+            "the 'graphics\\' folder and re-run Wayscribe!",
+            kProgramTitle, MessageButtons::Ok, MessageIcon::None);
         return false;
     }
     error = sheet_.loadMarkers(paths_.graphicsFolder);

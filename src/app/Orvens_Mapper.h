@@ -63,7 +63,8 @@ private:
     void buildMenus();
     void buildToolbar();
     void buildCentre();
-    QAction *addMenuItem(QMenu *menu, const char *name, const QString &caption, void (Orvens_Mapper::*slot)());
+    QAction *addMenuItem(QMenu *menu, const char *name, const QString &caption,
+                         void (Orvens_Mapper::*slot)());
     QAction *addLaterItem(QMenu *menu, const char *name, const QString &caption);
     void enableTileSetItems();
     bool loadPictures();

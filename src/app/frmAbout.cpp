@@ -25,11 +25,12 @@ frmAbout::frmAbout(const std::string &graphicsFolder, QWidget *mainWindow) : QWi
     picture->setAlignment(Qt::AlignCenter);
     picture->setAccessibleName("Wayscribe");
     layout->addWidget(picture);
-    auto *credits = new QLabel("<p align=center><b>Wayscribe</b> keeps the map of your world, turn by turn.</p>"
-                               "<p align=center>Terrain, settlements, shops, dungeons and notes from your turn "
-                               "reports,<br>movement orders, and journeys planned from shop to shop.</p>"
-                               "<p align=center>Written by the Wayscribe developers. Click to close.</p>",
-                               this);
+    auto *credits =
+        new QLabel("<p align=center><b>Wayscribe</b> keeps the map of your world, turn by turn.</p>"
+                   "<p align=center>Terrain, settlements, shops, dungeons and notes from your turn "
+                   "reports,<br>movement orders, and journeys planned from shop to shop.</p>"
+                   "<p align=center>Written by the Wayscribe developers. Click to close.</p>",
+                   this);
     credits->setObjectName("lblCredits");
     credits->setWordWrap(true);
     layout->addWidget(credits);

@@ -6,16 +6,17 @@
 
 #include <QCloseEvent>
 #include <QDialogButtonBox>
-#include <QRegularExpressionValidator>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpressionValidator>
 #include <QShortcut>
 #include <QVBoxLayout>
 
 namespace wayscribe {
 
-frmGameNum::frmGameNum(ProgramState &state, QWidget *mainWindow) : QWidget(mainWindow, Qt::Window), state_(state)
+frmGameNum::frmGameNum(ProgramState &state, QWidget *mainWindow)
+    : QWidget(mainWindow, Qt::Window), state_(state)
 {
     setObjectName("frmGameNum");
     setWindowTitle("Change Game Number:");

@@ -8,8 +8,8 @@
 #include "storage/map_commands.h"
 
 #include <QApplication>
-#include <QScreen>
 #include <QFileInfo>
+#include <QScreen>
 
 #include <memory>
 
@@ -33,6 +33,7 @@ int main(int argc, char **argv)
     // A map named on the command line opens like File, Open.
     const QStringList args = QApplication::arguments();
     if (args.size() > 1)
-        wayscribe::Load_Map(*world, state, platform, wayscribe::fromQString(QFileInfo(args.at(1)).absoluteFilePath()));
+        wayscribe::Load_Map(*world, state, platform,
+                            wayscribe::fromQString(QFileInfo(args.at(1)).absoluteFilePath()));
     return app.exec();
 }

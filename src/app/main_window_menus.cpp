@@ -46,7 +46,8 @@ void Orvens_Mapper::buildMenus()
 
     QMenu *info = menuBar()->addMenu("Information");
     info->setObjectName("mnuInformation");
-    addMenuItem(info, "mnuInformationPercent", "&Map Statistics", &Orvens_Mapper::mnuInformationPercent_Click);
+    addMenuItem(info, "mnuInformationPercent", "&Map Statistics",
+                &Orvens_Mapper::mnuInformationPercent_Click);
     addLaterItem(info, "mnuInformationObjects", "&Objects Database");
     addLaterItem(info, "mnuInformationNotes", "&Notes Database");
     addLaterItem(info, "mnuInfoSett", "&Settlement Database");

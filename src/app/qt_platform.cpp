@@ -36,15 +36,28 @@ Answer QtPlatform::message(const std::string &text, const std::string &title, Me
     if (!detail.empty())
         box.setInformativeText(toQString(detail));
     switch (icon) {
-    case MessageIcon::Information: box.setIcon(QMessageBox::Information); break;
-    case MessageIcon::Question: box.setIcon(QMessageBox::Question); break;
-    case MessageIcon::Exclamation: box.setIcon(QMessageBox::Warning); break;
-    case MessageIcon::Critical: box.setIcon(QMessageBox::Critical); break;
-    case MessageIcon::None: break;
+    case MessageIcon::Information:
+        box.setIcon(QMessageBox::Information);
+        break;
+    case MessageIcon::Question:
+        box.setIcon(QMessageBox::Question);
+        break;
+    case MessageIcon::Exclamation:
+        box.setIcon(QMessageBox::Warning);
+        break;
+    case MessageIcon::Critical:
+        box.setIcon(QMessageBox::Critical);
+        break;
+    case MessageIcon::None:
+        break;
     }
     switch (buttons) {
-    case MessageButtons::Ok: box.setStandardButtons(QMessageBox::Ok); break;
-    case MessageButtons::YesNo: box.setStandardButtons(QMessageBox::Yes | QMessageBox::No); break;
+    case MessageButtons::Ok:
+        box.setStandardButtons(QMessageBox::Ok);
+        break;
+    case MessageButtons::YesNo:
+        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+        break;
     case MessageButtons::YesNoCancel:
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
         break;
@@ -57,18 +70,23 @@ Answer QtPlatform::message(const std::string &text, const std::string &title, Me
     if (waiting)
         QApplication::restoreOverrideCursor();
     switch (pressed) {
-    case QMessageBox::Yes: return Answer::Yes;
-    case QMessageBox::No: return Answer::No;
-    case QMessageBox::Cancel: return Answer::Cancel;
-    default: return buttons == MessageButtons::Ok ? Answer::Ok : Answer::Cancel;
+    case QMessageBox::Yes:
+        return Answer::Yes;
+    case QMessageBox::No:
+        return Answer::No;
+    case QMessageBox::Cancel:
+        return Answer::Cancel;
+    default:
+        return buttons == MessageButtons::Ok ? Answer::Ok : Answer::Cancel;
     }
 }
 
-std::string QtPlatform::inputBox(const std::string &prompt, const std::string &title, const std::string &initial)
+std::string QtPlatform::inputBox(const std::string &prompt, const std::string &title,
+                                 const std::string &initial)
 {
     bool ok = false;
-    const QString text =
-        QInputDialog::getText(parent(), toQString(title), toQString(prompt), QLineEdit::Normal, toQString(initial), &ok);
+    const QString text = QInputDialog::getText(parent(), toQString(title), toQString(prompt),
+                                               QLineEdit::Normal, toQString(initial), &ok);
     return ok ? fromQString(text) : std::string();
 }
 
@@ -82,10 +100,9 @@ std::string QtPlatform::chooseOpenFile(const FileDialogRequest &request)
 std::string QtPlatform::chooseSaveFile(const FileDialogRequest &request)
 {
     // The program asks its own overwrite question.
-    return fromQString(QFileDialog::getSaveFileName(parent(), toQString(request.title),
-                                                    toQString(request.startFolder + request.initialName),
-                                                    qtFileFilter(request.filter), nullptr,
-                                                    QFileDialog::DontConfirmOverwrite));
+    return fromQString(QFileDialog::getSaveFileName(
+        parent(), toQString(request.title), toQString(request.startFolder + request.initialName),
+        qtFileFilter(request.filter), nullptr, QFileDialog::DontConfirmOverwrite));
 }
 
 std::string QtPlatform::chooseFolder(const std::string &title, const std::string &startFolder)

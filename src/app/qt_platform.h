@@ -24,9 +24,10 @@ class QtPlatform : public Platform {
 public:
     void attach(PlatformHost *host) { host_ = host; }
 
-    Answer message(const std::string &text, const std::string &title, MessageButtons buttons, MessageIcon icon,
-                   const std::string &detail = {}) override;
-    std::string inputBox(const std::string &prompt, const std::string &title, const std::string &initial) override;
+    Answer message(const std::string &text, const std::string &title, MessageButtons buttons,
+                   MessageIcon icon, const std::string &detail = {}) override;
+    std::string inputBox(const std::string &prompt, const std::string &title,
+                         const std::string &initial) override;
     std::string chooseOpenFile(const FileDialogRequest &request) override;
     std::string chooseSaveFile(const FileDialogRequest &request) override;
     std::string chooseFolder(const std::string &title, const std::string &startFolder) override;

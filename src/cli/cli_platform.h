@@ -13,8 +13,8 @@ class CliPlatform : public QuietPlatform {
 public:
     explicit CliPlatform(std::ostream &err, Answer answer = Answer::Yes) : QuietPlatform(answer), err_(err) {}
 
-    Answer message(const std::string &text, const std::string &title, MessageButtons buttons, MessageIcon icon,
-                   const std::string &detail = {}) override;
+    Answer message(const std::string &text, const std::string &title, MessageButtons buttons,
+                   MessageIcon icon, const std::string &detail = {}) override;
 
     int messageCount() const { return messages_; }
 

@@ -20,7 +20,8 @@ namespace {
 int usage(std::ostream &err)
 {
     auto table = wayscribe::cli::commandTable();
-    std::sort(table.begin(), table.end(), [](const auto &a, const auto &b) { return std::strcmp(a.name, b.name) < 0; });
+    std::sort(table.begin(), table.end(),
+              [](const auto &a, const auto &b) { return std::strcmp(a.name, b.name) < 0; });
     err << "usage: wayscribe-cli COMMAND ...\n";
     for (const auto &c : table)
         err << "  wayscribe-cli " << c.usage << '\n';

@@ -16,7 +16,10 @@ public:
     {
         return buttons == MessageButtons::Ok ? Answer::Ok : answer_;
     }
-    std::string inputBox(const std::string &, const std::string &, const std::string &) override { return {}; }
+    std::string inputBox(const std::string &, const std::string &, const std::string &) override
+    {
+        return {};
+    }
     std::string chooseOpenFile(const FileDialogRequest &) override { return {}; }
     std::string chooseSaveFile(const FileDialogRequest &) override { return {}; }
     std::string chooseFolder(const std::string &, const std::string &) override { return {}; }

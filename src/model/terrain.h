@@ -34,7 +34,13 @@ inline constexpr int kLastTerrain = 18;
 // 19..25 that QuestOR maps can carry) give an empty text.
 std::string_view terrainName(int code);
 
-inline bool isNamedTerrain(int code) { return code >= kFirstTerrain && code <= kLastTerrain; }
-inline bool isSettlementTerrain(int code) { return code >= kVillage && code < 19; }
+inline bool isNamedTerrain(int code)
+{
+    return code >= kFirstTerrain && code <= kLastTerrain;
+}
+inline bool isSettlementTerrain(int code)
+{
+    return code >= kVillage && code < 19;
+}
 
 } // namespace wayscribe

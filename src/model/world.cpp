@@ -105,10 +105,8 @@ ShopTexts PackedShop::unpack() const
 }
 
 World::World()
-    : sectors_(kSectorStride * kSectorStride),
-      shops_((kMaxSettlements + 1) * kShopCount),
-      dungeons_(kMaxDungeons + 1),
-      questorItemNames_(kQuestorLastItem + 1)
+    : sectors_(kSectorStride * kSectorStride), shops_((kMaxSettlements + 1) * kShopCount),
+      dungeons_(kMaxDungeons + 1), questorItemNames_(kQuestorLastItem + 1)
 {
 }
 

@@ -22,12 +22,30 @@ inline constexpr int kLevelsPerDungeon = 10;    // levels 1..10
 inline constexpr int kQuestorFirstItem = 101;   // QuestOR item names 101..1000
 inline constexpr int kQuestorLastItem = 1000;
 
-inline bool isSectorIndex(int v) { return v >= 1 && v <= kMapSize; }
-inline bool isSettlementIndex(int n) { return n >= 1 && n <= kMaxSettlements; }
-inline bool isShopIndex(int s) { return s >= 0 && s <= kMaxShop; }
-inline bool isItemIndex(int i) { return i >= 1 && i <= kItemsPerShop; }
-inline bool isDungeonIndex(int d) { return d >= 1 && d <= kMaxDungeons; }
-inline bool isLevelIndex(int l) { return l >= 1 && l <= kLevelsPerDungeon; }
+inline bool isSectorIndex(int v)
+{
+    return v >= 1 && v <= kMapSize;
+}
+inline bool isSettlementIndex(int n)
+{
+    return n >= 1 && n <= kMaxSettlements;
+}
+inline bool isShopIndex(int s)
+{
+    return s >= 0 && s <= kMaxShop;
+}
+inline bool isItemIndex(int i)
+{
+    return i >= 1 && i <= kItemsPerShop;
+}
+inline bool isDungeonIndex(int d)
+{
+    return d >= 1 && d <= kMaxDungeons;
+}
+inline bool isLevelIndex(int l)
+{
+    return l >= 1 && l <= kLevelsPerDungeon;
+}
 
 struct Sector {
     std::uint8_t terrain = 1;
@@ -171,11 +189,11 @@ public:
 private:
     PackedShop &packed(int n, int shop);
 
-    std::vector<Sector> sectors_;                       // (kMapSize+1)^2, row 0 / column 0 unused
+    std::vector<Sector> sectors_; // (kMapSize+1)^2, row 0 / column 0 unused
     std::array<Settlement, kMaxSettlements + 1> settlements_;
-    std::vector<PackedShop> shops_;                     // (kMaxSettlements+1) * kShopCount
-    std::vector<Dungeon> dungeons_;                     // kMaxDungeons + 1
-    std::vector<std::string> questorItemNames_;         // kQuestorLastItem + 1
+    std::vector<PackedShop> shops_;             // (kMaxSettlements+1) * kShopCount
+    std::vector<Dungeon> dungeons_;             // kMaxDungeons + 1
+    std::vector<std::string> questorItemNames_; // kQuestorLastItem + 1
     // Few items ever carry a name index: kept sparse, by item position.
     std::unordered_map<std::uint32_t, std::uint16_t> questorNameIndexes_;
 };

@@ -55,7 +55,8 @@ private:
         for (std::size_t i = 0; i < quick; ++i)
             if (from[i] == '\n')
                 return from + i;
-        return size > quick ? static_cast<const char *>(std::memchr(from + quick, '\n', size - quick)) : nullptr;
+        return size > quick ? static_cast<const char *>(std::memchr(from + quick, '\n', size - quick))
+                            : nullptr;
     }
 
     std::FILE *file_ = nullptr;

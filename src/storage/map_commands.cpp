@@ -1,11 +1,11 @@
 #include "storage/map_commands.h"
 
+#include "model/new_map.h"
 #include "model/platform.h"
 #include "model/program_state.h"
 #include "model/text.h"
 #include "model/world.h"
 #include "storage/map_file.h"
-#include "model/new_map.h"
 #include "storage/map_merge.h"
 #include "storage/options_file.h"
 
@@ -62,10 +62,11 @@ bool Load_Map(World &world, ProgramState &state, Platform &platform, const std::
         // discarded without a question.
         const bool partlyRead = result.error.line > 2;
         state.mapChanged = partlyRead ? 1 : state.mapChanged;
-        platform.message(partlyRead ? "The map file could not be read completely. Everything up to the broken "
-                                      "line has been loaded; the rest of the map is as it was."
-                                    : "The map file could not be read. The map is as it was.",
-                         kProgramTitle, MessageButtons::Ok, MessageIcon::Exclamation, result.error.describe());
+        platform.message(
+            partlyRead ? "The map file could not be read completely. Everything up to the broken "
+                         "line has been loaded; the rest of the map is as it was."
+                       : "The map file could not be read. The map is as it was.",
+            kProgramTitle, MessageButtons::Ok, MessageIcon::Exclamation, result.error.describe());
         platform.redrawMap();
         return false;
     }
@@ -113,8 +114,8 @@ bool Save_Map(World &world, ProgramState &state, Platform &platform, bool choose
 void newMapCommand(World &world, ProgramState &state, Platform &platform)
 {
     if (state.mapChanged == 1 &&
-        platform.message("Are you sure you wish to New the map without saving?", "Sure?", MessageButtons::YesNo,
-                         MessageIcon::Question) == Answer::Yes)
+        platform.message("Are you sure you wish to New the map without saving?", "Sure?",
+                         MessageButtons::YesNo, MessageIcon::Question) == Answer::Yes)
         state.mapChanged = 0;
     if (state.mapChanged == 0)
         NewMap(world, state, platform);
@@ -126,8 +127,8 @@ void loadMapCommand(World &world, ProgramState &state, Platform &platform, bool 
         const Answer a =
             fromMenu ? platform.message("Are you sure you wish to load a new map without saving?", "Sure?",
                                         MessageButtons::YesNo, MessageIcon::Critical)
-                     : platform.message("Are you sure you wish to Load a map without saving current map?", "Sure?",
-                                        MessageButtons::YesNo, MessageIcon::Question);
+                     : platform.message("Are you sure you wish to Load a map without saving current map?",
+                                        "Sure?", MessageButtons::YesNo, MessageIcon::Question);
         if (a == Answer::Yes)
             state.mapChanged = 0;
     }

@@ -55,8 +55,8 @@ bool readBody(MapLineReader &in, World &world, std::uint8_t &gameNumber, int ver
     for (int y = 1; y <= kMapSize; ++y)
         for (int x = 1; x <= kMapSize; ++x) {
             Sector &sec = world.sector(x, y);
-            if (!in.readByte(sec.terrain) || !in.readEscapedText(sec.note) || !in.readByte(sec.settlementNumber) ||
-                !in.readText(sec.settlementName))
+            if (!in.readByte(sec.terrain) || !in.readEscapedText(sec.note) ||
+                !in.readByte(sec.settlementNumber) || !in.readText(sec.settlementName))
                 return false;
         }
     const ShopRange shops = shopRange(version);
@@ -206,9 +206,8 @@ MapReadResult readMapFileWith(const std::string &path,
 
 MapReadResult readMapFile(const std::string &path, World &world, std::uint8_t &gameNumber)
 {
-    return readMapFileWith(path, [&](MapLineReader &in, int version) {
-        return readBody(in, world, gameNumber, version);
-    });
+    return readMapFileWith(
+        path, [&](MapLineReader &in, int version) { return readBody(in, world, gameNumber, version); });
 }
 
 bool writeMapFile(const std::string &path, const World &world, std::uint8_t gameNumber, FileError &error)

@@ -92,9 +92,8 @@ bool mergeBody(MapLineReader &in, World &world, std::uint8_t &gameNumber, int ve
 
 MapReadResult mergeMapFile(const std::string &path, World &world, std::uint8_t &gameNumber)
 {
-    return readMapFileWith(path, [&](MapLineReader &in, int version) {
-        return mergeBody(in, world, gameNumber, version);
-    });
+    return readMapFileWith(
+        path, [&](MapLineReader &in, int version) { return mergeBody(in, world, gameNumber, version); });
 }
 
 } // namespace wayscribe

@@ -34,7 +34,7 @@ std::string byteOffset(std::size_t offset)
 
 // The file's signed 16-bit little-endian values, one at a time.
 class ValueStream {
-  public:
+public:
     explicit ValueStream(const std::string &bytes) : bytes_(bytes) {}
 
     bool next(int &value)
@@ -52,14 +52,14 @@ class ValueStream {
     std::size_t lastOffset() const { return pos_ - 2; }
     std::size_t nextOffset() const { return pos_; }
 
-  private:
+private:
     const std::string &bytes_;
     std::size_t pos_ = 0;
 };
 
 // The state of the token stream: each token changes it or writes through it.
 class TokenReader {
-  public:
+public:
     TokenReader(World &world, Platform &platform, QuestorTokenCounts &counts)
         : world_(world), platform_(platform), counts_(counts)
     {
@@ -135,7 +135,7 @@ class TokenReader {
         buffered_ = false;
     }
 
-  private:
+private:
     // The shop the tokens write to, unpacked once while its tokens last
     // instead of repacked for every text.
     ShopTexts &currentShop()

@@ -26,7 +26,7 @@ constexpr int kSpecialItemLast = 317;
 
 // Values of the names file, each read error told with its line.
 class NamesInput {
-  public:
+public:
     NamesInput(const std::string &text, Platform &platform, QuestorError &error)
         : csv_(text), platform_(platform), error_(error)
     {
@@ -73,7 +73,7 @@ class NamesInput {
     }
     int lastLine() const { return lastLine_; }
 
-  private:
+private:
     CsvReader csv_;
     Platform &platform_;
     QuestorError &error_;

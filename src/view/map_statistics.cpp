@@ -27,8 +27,9 @@ std::string mapStatisticsText(const World &world)
     // then shown as a whole percentage: filled / 400 rounded.
     const double percent = roundHalfEven(c.filled / 400.0);
     return "The map is" + formatGeneral(percent) + "% complete.\r\n\r\nThere are" + formatGeneral(c.filled) +
-           " filled sectors out of 40000," + formatGeneral(c.water) + " of which are water.\r\n\r\nThere are" +
-           formatGeneral(c.settlements) + " settlements and" + formatGeneral(c.notes) + " notes.";
+           " filled sectors out of 40000," + formatGeneral(c.water) +
+           " of which are water.\r\n\r\nThere are" + formatGeneral(c.settlements) + " settlements and" +
+           formatGeneral(c.notes) + " notes.";
 }
 
 } // namespace wayscribe

@@ -7,7 +7,7 @@ namespace wayscribe {
 class World;
 
 struct MapCounts {
-    int filled = 0;      // terrain other than Unknown
+    int filled = 0; // terrain other than Unknown
     int water = 0;
     int settlements = 0; // sectors with a settlement name
     int notes = 0;       // sectors with a note, blanks included

@@ -9,8 +9,8 @@ namespace wayscribe {
 
 void unknownsToWaterCommand(World &world, ProgramState &, Platform &platform)
 {
-    if (platform.message("Really convert all Unknowns to Water? Irreversible!", "Sure?", MessageButtons::YesNo,
-                         MessageIcon::Question) != Answer::Yes)
+    if (platform.message("Really convert all Unknowns to Water? Irreversible!", "Sure?",
+                         MessageButtons::YesNo, MessageIcon::Question) != Answer::Yes)
         return;
     platform.setStatus("Please wait, Converting Unknowns to Water...");
     for (int y = 1; y <= kMapSize; ++y)

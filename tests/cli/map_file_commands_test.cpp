@@ -38,13 +38,15 @@ TEST(CliMapCommands, ConvertMergeStatsAndInfo)
 
     r = runCli({"stats", a});
     EXPECT_EQ(r.status, 0);
-    EXPECT_EQ(r.out, "The map is 0% complete.\n\nThere are 1 filled sectors out of 40000, 1 of which are water.\n\n"
-                     "There are 1 settlements and 1 notes.\n");
+    EXPECT_EQ(r.out,
+              "The map is 0% complete.\n\nThere are 1 filled sectors out of 40000, 1 of which are water.\n\n"
+              "There are 1 settlements and 1 notes.\n");
 
     r = runCli({"info", a});
     EXPECT_EQ(r.status, 0);
-    EXPECT_EQ(r.out, "format version: 17\ngame number: 12\nknown sectors: 1\nsettlements: 1\nshops: 1\nitems: 1\n"
-                     "notes: 1\ndungeons: 1\n");
+    EXPECT_EQ(r.out,
+              "format version: 17\ngame number: 12\nknown sectors: 1\nsettlements: 1\nshops: 1\nitems: 1\n"
+              "notes: 1\ndungeons: 1\n");
 
     const std::string b = sampleMap(dir, "b.om1", 6);
     r = runCli({"merge", a, b, "--out", dir.file("merged.om1")});

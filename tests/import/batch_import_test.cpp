@@ -47,9 +47,9 @@ TEST_F(BatchImport, HtmFilesFirstThenHtmlEachInNameOrder)
     const BatchOutcome outcome = importFolder();
     EXPECT_EQ(outcome.imported, 3);
     const std::string wait = "Please wait, batch importing HTML turns...";
-    EXPECT_EQ(platform.statuses, (std::vector<std::string>{wait, wait + " file 1 of 3, b.htm",
-                                                           wait + " file 2 of 3, c.htm",
-                                                           wait + " file 3 of 3, a.html", ""}));
+    EXPECT_EQ(platform.statuses,
+              (std::vector<std::string>{wait, wait + " file 1 of 3, b.htm", wait + " file 2 of 3, c.htm",
+                                        wait + " file 3 of 3, a.html", ""}));
     // Later reports overwrite the terrain; only the first note finds the sector empty.
     EXPECT_EQ(at(51, 50).terrain, 6);
     EXPECT_EQ(at(50, 50).note, "B.");

@@ -99,10 +99,10 @@ TEST(MapFileErrors, LenientNumbersAndLineEnds)
 {
     TempDir dir;
     std::string text = validFile(dir);
-    text = replaceLine(text, 2, " 4.5 ");  // rounds half to even
-    text = replaceLine(text, 3, "");       // an empty number line is 0
-    text = replaceLine(text, 7, "12abc");  // the leading number counts
-    std::string lf;                        // bare LF line ends are accepted
+    text = replaceLine(text, 2, " 4.5 "); // rounds half to even
+    text = replaceLine(text, 3, "");      // an empty number line is 0
+    text = replaceLine(text, 7, "12abc"); // the leading number counts
+    std::string lf;                       // bare LF line ends are accepted
     for (char c : text)
         if (c != '\r')
             lf.push_back(c);

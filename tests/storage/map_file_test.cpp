@@ -16,10 +16,22 @@ namespace {
 
 constexpr long kV17Lines = 1248402;
 // Line numbers (1-based) in a format 17 file.
-long sectorLine(int x, int y, int field) { return 3 + ((y - 1) * 200 + (x - 1)) * 4 + field; }
-long settlementLine(int n) { return 3 + 160000 + (n - 1) * (4 + 111 * 61); }
-long shopLine(int n, int s) { return settlementLine(n) + 4 + s * 61; }
-long dungeonLine(int d) { return 3 + 160000 + 160 * (4 + 111 * 61) + (d - 1) * 22; }
+long sectorLine(int x, int y, int field)
+{
+    return 3 + ((y - 1) * 200 + (x - 1)) * 4 + field;
+}
+long settlementLine(int n)
+{
+    return 3 + 160000 + (n - 1) * (4 + 111 * 61);
+}
+long shopLine(int n, int s)
+{
+    return settlementLine(n) + 4 + s * 61;
+}
+long dungeonLine(int d)
+{
+    return 3 + 160000 + 160 * (4 + 111 * 61) + (d - 1) * 22;
+}
 
 void fillSample(World &w)
 {
@@ -40,7 +52,10 @@ void fillSample(World &w)
     w.dungeon(200).level[10].roomData = " a ";
 }
 
-std::unique_ptr<World> freshWorld() { return std::make_unique<World>(); }
+std::unique_ptr<World> freshWorld()
+{
+    return std::make_unique<World>();
+}
 
 } // namespace
 
@@ -56,7 +71,8 @@ TEST(MapFile, WritesTheFormat17LayoutByteForByte)
     ASSERT_EQ(static_cast<long>(lines.size()), kV17Lines);
     ASSERT_EQ(bytes.substr(bytes.size() - 2), "\r\n");
     auto line = [&](long n) { return lines[n - 1]; };
-    EXPECT_EQ(line(1), "\"v017 - This is a saved map file for the Wayscribe. Do *not* edit this file yourself!\"");
+    EXPECT_EQ(line(1),
+              "\"v017 - This is a saved map file for the Wayscribe. Do *not* edit this file yourself!\"");
     EXPECT_EQ(line(2), "7");
     EXPECT_EQ(line(sectorLine(1, 1, 0)), "6");
     EXPECT_EQ(line(sectorLine(1, 1, 1)), "\"two@/@lines\"") << "escaped and trimmed in the file only";
@@ -154,7 +170,12 @@ TEST(MapFile, OlderLayoutsKeepWhatTheModelHeldForMissingRecords)
 
 TEST(MapFile, VersionComesFromCharactersTwoToFiveOfTheHeader)
 {
-    for (const auto &[header, version] : std::vector<std::pair<std::string, int>>{
-             {"\"v010 x\"", 10}, {"\"v018\"", 18}, {"\"v019\"", 0}, {"\"V017\"", 0}, {"v017", 0}, {"", 0}, {"\"v01", 0}})
+    for (const auto &[header, version] : std::vector<std::pair<std::string, int>>{{"\"v010 x\"", 10},
+                                                                                  {"\"v018\"", 18},
+                                                                                  {"\"v019\"", 0},
+                                                                                  {"\"V017\"", 0},
+                                                                                  {"v017", 0},
+                                                                                  {"", 0},
+                                                                                  {"\"v01", 0}})
         EXPECT_EQ(mapFormatVersion(header), version) << header;
 }

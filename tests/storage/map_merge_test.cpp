@@ -31,7 +31,7 @@ std::string writeOther(const TempDir &dir, int version = 17)
     w->setItem(9, 0, 1, ItemField::Name, "Sword");
     w->setItem(9, 0, 1, ItemField::Price, "10");
     w->setShopName(9, 110, "Top Shop");
-    w->dungeon(1) .name = "File Crypt";
+    w->dungeon(1).name = "File Crypt";
     w->dungeon(1).levels = 5;
     w->dungeon(1).level[1].map = "file map 1";
     w->dungeon(1).level[2].map = "file map 2";

@@ -25,7 +25,7 @@ bool contains(const std::string &text, const std::string &part)
 }
 
 class QuestorCommandTest : public ::testing::Test {
-  protected:
+protected:
     QuestorCommandTest()
     {
         world->sector(150, 150).terrain = 11;

@@ -19,7 +19,7 @@ using test::QuestorMapWriter;
 using test::QuestorNamesWriter;
 
 class QuestorImportTest : public ::testing::Test {
-  protected:
+protected:
     QuestorImportResult import(const QuestorMapWriter &mp1, const QuestorNamesWriter &mp2)
     {
         const std::string path = dir.file("map.mp1");

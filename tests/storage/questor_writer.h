@@ -14,7 +14,7 @@
 namespace wayscribe::test {
 
 class QuestorMapWriter {
-  public:
+public:
     // One signed 16-bit little-endian value.
     QuestorMapWriter &value(int v)
     {
@@ -56,7 +56,7 @@ class QuestorMapWriter {
 
     const std::string &bytes() const { return bytes_; }
 
-  private:
+private:
     std::string bytes_;
     int sectors_ = 0;
 };

@@ -117,8 +117,8 @@ void frmRouteFinder::setToText(const QString &text)
 void frmRouteFinder::cmdFind_Click()
 {
     const std::optional<std::string> routes =
-        findRoutes(world_, state_, platform_, fromQString(cmbFrom->currentText()), fromQString(cmbTo->currentText()),
-                   [this](const std::string &pleaseWait) {
+        findRoutes(world_, state_, platform_, fromQString(cmbFrom->currentText()),
+                   fromQString(cmbTo->currentText()), [this](const std::string &pleaseWait) {
                        txtRoutes->setPlainText(toQString(replaceAll(pleaseWait, "\r\n", "\n")));
                        txtRoutes->repaint();
                    });

@@ -13,7 +13,7 @@ namespace wayscribe {
 // un-shares the picture's data, and the painter must then paint into that
 // same data. Both may then be used in turn, as the painter draws at once.
 class PixelCanvas {
-  public:
+public:
     explicit PixelCanvas(QImage &picture);
 
     void setPixel(QPoint p, QRgb colour)
@@ -28,7 +28,7 @@ class PixelCanvas {
     // exactly. A line from a point to itself draws nothing.
     void drawLine(QPoint from, QPoint to, QRgb colour);
 
-  private:
+private:
     uchar *bits_;
     qsizetype stride_;
     int width_, height_;

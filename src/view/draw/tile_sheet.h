@@ -12,7 +12,7 @@ namespace wayscribe {
 // the current tile set and the note, dungeon and special markers in one sheet,
 // plus the footprints and the small palette tiles.
 class TileSheet {
-  public:
+public:
     static constexpr int kTileSize = 16;
     // Sheet entries besides the terrain tiles 1..18.
     static constexpr int kNoteImage = 20;
@@ -45,7 +45,7 @@ class TileSheet {
     // loadTileSet does.
     std::string loadMarkers(const std::string &graphicsFolder);
 
-  private:
+private:
     QImage sheet_;
     std::array<QImage, 4> footprints_;
     std::array<QImage, 18> paletteTiles_;

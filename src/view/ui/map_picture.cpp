@@ -47,15 +47,33 @@ void MapPicture::resizeEvent(QResizeEvent *event)
 void MapPicture::keyPressEvent(QKeyEvent *event)
 {
     switch (event->key()) {
-    case Qt::Key_Left: emit scrollRequested(-1, 0, false); break;
-    case Qt::Key_Right: emit scrollRequested(1, 0, false); break;
-    case Qt::Key_Up: emit scrollRequested(0, -1, false); break;
-    case Qt::Key_Down: emit scrollRequested(0, 1, false); break;
-    case Qt::Key_PageUp: emit scrollRequested(0, -1, true); break;
-    case Qt::Key_PageDown: emit scrollRequested(0, 1, true); break;
-    case Qt::Key_Home: emit scrollRequested(-1, 0, true); break;
-    case Qt::Key_End: emit scrollRequested(1, 0, true); break;
-    default: QWidget::keyPressEvent(event); return;
+    case Qt::Key_Left:
+        emit scrollRequested(-1, 0, false);
+        break;
+    case Qt::Key_Right:
+        emit scrollRequested(1, 0, false);
+        break;
+    case Qt::Key_Up:
+        emit scrollRequested(0, -1, false);
+        break;
+    case Qt::Key_Down:
+        emit scrollRequested(0, 1, false);
+        break;
+    case Qt::Key_PageUp:
+        emit scrollRequested(0, -1, true);
+        break;
+    case Qt::Key_PageDown:
+        emit scrollRequested(0, 1, true);
+        break;
+    case Qt::Key_Home:
+        emit scrollRequested(-1, 0, true);
+        break;
+    case Qt::Key_End:
+        emit scrollRequested(1, 0, true);
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+        return;
     }
 }
 

@@ -40,7 +40,8 @@ void TerrainPalette::showTiles(const TileSheet &sheet)
         if (tile.isNull())
             continue;
         // The tiles keep their colours also while painting is not available.
-        const QPixmap pixmap = QPixmap::fromImage(tile.scaled(20, 20, Qt::IgnoreAspectRatio, Qt::FastTransformation));
+        const QPixmap pixmap =
+            QPixmap::fromImage(tile.scaled(20, 20, Qt::IgnoreAspectRatio, Qt::FastTransformation));
         QIcon icon(pixmap);
         icon.addPixmap(pixmap, QIcon::Disabled);
         buttons_[i]->setIcon(icon);

@@ -109,7 +109,8 @@ private slots:
         h.platform.answers = {Answer::No};
         h.find<QToolButton>("cmdNew")->click();
         QCOMPARE(h.world->sector(2, 2).terrain, 9);
-        QCOMPARE(h.platform.messages.back().text, std::string("Are you sure you wish to New the map without saving?"));
+        QCOMPARE(h.platform.messages.back().text,
+                 std::string("Are you sure you wish to New the map without saving?"));
         h.platform.answers = {Answer::Yes};
         h.find<QToolButton>("cmdNew")->click();
         QCOMPARE(h.world->sector(2, 2).terrain, 1);
@@ -172,7 +173,8 @@ private slots:
         h.platform.files = {map};
         h.platform.answers = {Answer::No};
         h.find<QAction>("mnuFileSaveAs")->trigger();
-        QCOMPARE(h.platform.messages.back().text, std::string("Are you sure you wish to over-write this file?"));
+        QCOMPARE(h.platform.messages.back().text,
+                 std::string("Are you sure you wish to over-write this file?"));
         h.platform.files = {h.dir.file("copy.om1")};
         h.find<QAction>("mnuFileSaveAs")->trigger();
         QCOMPARE(h.state.mapFileName, h.dir.file("copy.om1"));
@@ -263,10 +265,10 @@ private slots:
         for (int y = 1; y <= 12; ++y)
             for (int x = 1; x <= 12; ++x)
                 h.world->sector(x, y).terrain = 3;
-        h.world->sector(5, 5).terrain = 15;  // isolated road, for comparison
+        h.world->sector(5, 5).terrain = 15; // isolated road, for comparison
         h.world->sector(2, 2).terrain = 15;
-        h.world->sector(3, 2).terrain = 16;  // village to the east
-        h.world->sector(1, 2).terrain = 2;   // water to the west
+        h.world->sector(3, 2).terrain = 16; // village to the east
+        h.world->sector(1, 2).terrain = 2;  // water to the west
         h.window->redrawMap();
         const QImage isolated = h.tileAt(5, 5);
         const QImage road = h.tileAt(2, 2);

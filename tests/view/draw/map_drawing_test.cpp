@@ -17,7 +17,7 @@ namespace {
 const QRgb kGrey = qRgb(128, 128, 128);
 
 class MapDrawing : public ::testing::Test {
-  protected:
+protected:
     MapDrawing()
     {
         writeTileSet(dir.file("graphics"), "kjc_set1");

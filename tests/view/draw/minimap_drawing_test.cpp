@@ -17,7 +17,7 @@ const QRgb kWhite = qRgb(255, 255, 255);
 const QRgb kWaterColour = qRgb(0, 0, 200);
 
 class MinimapDrawing : public ::testing::Test {
-  protected:
+protected:
     void setTerrain(int x, int y, int code) { world->sector(x, y).terrain = static_cast<std::uint8_t>(code); }
     void view(int left, int top, int cols, int rows)
     {
