@@ -11,7 +11,7 @@ sys.path.insert(0, str(Path(__file__).resolve().parent))
 from graphics import banner, markers, set_kjc1, set_kjc2, set_questor, set_tolma, toolbar  # noqa: E402
 from graphics.bmp import encode_bmp  # noqa: E402
 from graphics.gif import encode_gif, quantize  # noqa: E402
-from graphics.terrains import STEMS  # noqa: E402
+from graphics.terrains import STEMS, tile_function  # noqa: E402
 
 TILE_SETS = {
     "kjc_set1": set_kjc1,
@@ -27,7 +27,7 @@ def tile_files():
     files = {}
     for folder, module in TILE_SETS.items():
         for stem in STEMS:
-            tile = module.TILES[stem]()
+            tile = tile_function(module, stem)()
             data = encode_bmp(tile.width, tile.height, tile.px)
             files["%s/l_%s.bmp" % (folder, stem)] = data
             files["%s/s_%s.bmp" % (folder, stem)] = data

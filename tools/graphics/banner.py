@@ -6,7 +6,7 @@ from . import markers, set_kjc1
 from .canvas import Canvas, darken, fbm, lighten, mix, noise
 from .mapdraw import draw_map, terrain_from_letters
 from .pixelfont import draw_text, text_width
-from .terrains import STEMS
+from .terrains import STEMS, tile_function
 
 WIDTH, HEIGHT = 320, 160
 INK = (78, 56, 34)
@@ -114,7 +114,7 @@ def about_picture():
     _parchment(c, 28, 291, top, bottom)
     _roller(c, 16, 29, top - 2, bottom + 2)
     _roller(c, 290, 303, top - 2, bottom + 2)
-    tiles = {stem: set_kjc1.TILES[stem]() for stem in STEMS}
+    tiles = {stem: tile_function(set_kjc1, stem)() for stem in STEMS}
     image, mask = markers.note_pictures()
     pictures = {"note": image, "note_m": mask, "dungeon": markers.dungeon(), "special": markers.special()}
     terrain = terrain_from_letters(MAP, LETTERS)

@@ -178,24 +178,3 @@ def city():
     c.stamp(m.CITY, STONEWORK, 0, 0)
     return c
 
-
-TILES = {
-    "unknown": unknown,
-    "water": water,
-    "open": open_,
-    "field": field,
-    "rough": rough,
-    "forest": forest,
-    "hforest": hforest,
-    "jungle": jungle,
-    "barren": barren,
-    "desert": desert,
-    "mountain": mountain,
-    "hill": hill,
-    "marsh": marsh,
-    "swamp": swamp,
-    "road": road,
-    "village": village,
-    "town": town,
-    "city": city,
-}

@@ -47,3 +47,9 @@ MINIMAP_COLOURS = {
     "town": (255, 30, 0),
     "city": (255, 30, 0),
 }
+
+
+def tile_function(module, stem):
+    """The function of a tile-set module that draws the tile of `stem`. The one for "open" is
+    called open_, as open is a Python built-in."""
+    return getattr(module, "open_" if stem == "open" else stem)
