@@ -361,7 +361,7 @@ bool Orvens_Mapper::loadPictures()
     return true;
 }
 
-bool Orvens_Mapper::startUp()
+bool Orvens_Mapper::startUp(const std::string &mapToOpen)
 {
     state_.appFolder = paths_.appFolder;
     state_.optionsFilePath = paths_.optionsFile;
@@ -392,7 +392,11 @@ bool Orvens_Mapper::startUp()
     state_.moveCounterOn = 0;
     state_.fileBusy = 0;
     layoutMapPicture();
-    if (state_.options.lmol && !state_.options.wmol.empty() && fileExists(state_.options.wmol)) {
+    if (!mapToOpen.empty()) {
+        // A map named on the command line opens like File, Open, in place of
+        // the last map.
+        Load_Map(world_, state_, platform_, mapToOpen);
+    } else if (state_.options.lmol && !state_.options.wmol.empty() && fileExists(state_.options.wmol)) {
         about_->setPleaseWaitVisible(true);
         Load_Map(world_, state_, platform_, state_.options.wmol);
         state_.viewLeft = state_.options.xLeft;

@@ -35,9 +35,9 @@ public:
     ~Orvens_Mapper() override;
 
     // The start-up sequence after the window exists: options, pictures,
-    // cleared map, and the last map when the options ask for it. False when
-    // the program must end at once.
-    bool startUp();
+    // cleared map, and the last map when the options ask for it, or else the
+    // map named on the command line. False when the program must end at once.
+    bool startUp(const std::string &mapToOpen = {});
 
     // PlatformHost
     QWidget *dialogParent() override { return this; }

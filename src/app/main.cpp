@@ -5,7 +5,6 @@
 #include "app/qt_text.h"
 #include "model/program_state.h"
 #include "model/world.h"
-#include "storage/map_commands.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -28,12 +27,10 @@ int main(int argc, char **argv)
     const QSize screen = QGuiApplication::primaryScreen()->availableGeometry().size();
     window.resize(QSize(1280, 880).boundedTo(screen * 0.95));
     window.show();
-    if (!window.startUp())
-        return 1;
-    // A map named on the command line opens like File, Open.
     const QStringList args = QApplication::arguments();
-    if (args.size() > 1)
-        wayscribe::Load_Map(*world, state, platform,
-                            wayscribe::fromQString(QFileInfo(args.at(1)).absoluteFilePath()));
+    const std::string mapToOpen =
+        args.size() > 1 ? wayscribe::fromQString(QFileInfo(args.at(1)).absoluteFilePath()) : std::string();
+    if (!window.startUp(mapToOpen))
+        return 1;
     return app.exec();
 }

@@ -31,7 +31,7 @@ struct Harness {
     explicit Harness(const std::string &graphics = WAYSCRIBE_GRAPHICS) : graphicsFolder(graphics) {}
     std::string graphicsFolder;
 
-    void start(const std::string &options = {})
+    void start(const std::string &options = {}, const std::string &mapToOpen = {})
     {
         if (!options.empty())
             writeFile(dir.file("wayscribe.ini"), options);
@@ -41,7 +41,7 @@ struct Harness {
         window->resize(1000, 700);
         window->show();
         QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-        QVERIFY(window->startUp());
+        QVERIFY(window->startUp(mapToOpen));
     }
     std::string saveMap(const std::string &name, int terrainAt11)
     {
@@ -98,6 +98,17 @@ private slots:
         QCOMPARE(h.state.viewTop, 3);
         QCOMPARE(h.find<QScrollBar>("hscroll")->value(), int(h.state.viewLeft));
         QCOMPARE(h.state.mapChanged, 0);
+    }
+
+    void aMapNamedOnTheCommandLineOpensInsteadOfTheLastMap()
+    {
+        Harness h;
+        const std::string last = h.saveMap("last.om1", 6);
+        const std::string named = h.saveMap("named.om1", 9);
+        h.start("LMOL = True\r\nWMOL = " + last + "\r\nXLEFT = 40\r\n", named);
+        QCOMPARE(h.state.mapFileName, named);
+        QCOMPARE(h.world->sector(1, 1).terrain, 9);
+        QCOMPARE(h.state.viewLeft, 0);
     }
 
     void newAsksOnlyAboutAChangedMap()
