@@ -137,7 +137,9 @@ void QtPlatform::processEvents()
 {
     if (sinceEvents_.isValid() && sinceEvents_.elapsed() < kEventIntervalMs)
         return;
-    QCoreApplication::processEvents();
+    // The window repaints and shows its progress; clicks and keys wait until
+    // the job is done, so that nothing can start another job in the middle.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     sinceEvents_.start();
 }
 
