@@ -241,6 +241,8 @@ void Orvens_Mapper::buildToolbar()
             connect(button, &QToolButton::clicked, this, &Orvens_Mapper::mnuViewGoto_Click);
         else
             button->setEnabled(false); // their windows come with later versions
+        if (button->isEnabled())
+            workingButtons_.push_back(button);
     }
 }
 
@@ -419,7 +421,9 @@ void Orvens_Mapper::setContentsEnabled(bool enabled)
 {
     centralWidget()->setEnabled(enabled);
     menuBar()->setEnabled(enabled);
-    toolbar_->setEnabled(enabled);
+    // Button by button: buttons of later versions stay disabled throughout.
+    for (QToolButton *button : workingButtons_)
+        button->setEnabled(enabled);
 }
 
 void Orvens_Mapper::openSecondary(QWidget *window, bool redrawAfter)

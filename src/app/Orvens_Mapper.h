@@ -8,6 +8,7 @@
 #include <QMainWindow>
 
 #include <map>
+#include <vector>
 
 class QAction;
 class QLabel;
@@ -126,6 +127,7 @@ private:
     QLineEdit *mpcbox = nullptr;
     QLineEdit *txtTotalMPs = nullptr;
     QToolBar *toolbar_ = nullptr;
+    std::vector<QToolButton *> workingButtons_; // the toolbar buttons that have a command
     QToolButton *chkLocked = nullptr;
     QAction *mnuEditLock = nullptr;
     std::map<std::string, QAction *> tileSetItems_;
