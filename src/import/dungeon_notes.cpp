@@ -6,6 +6,7 @@
 #include "model/world.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace wayscribe {
 
@@ -21,9 +22,9 @@ std::string dungeonNote(const std::string &name, long levels, const char *ending
 // the claim again.
 void storeDungeonRecord(World &world, const std::string &name, long levels, bool levelsRaised)
 {
-    // A record holds at most ten levels; the note keeps the number the
-    // report gave.
-    const auto recordLevels = static_cast<std::int16_t>(std::clamp<long>(levels, 0, kLevelsPerDungeon));
+    // The record keeps the count the report gave, as the note does; only the
+    // level texts are limited to ten.
+    const auto recordLevels = static_cast<std::int16_t>(std::clamp<long>(levels, INT16_MIN, INT16_MAX));
     int claimed = 0;
     bool matched = false;
     for (int d = 1; d <= kMaxDungeons; ++d) {

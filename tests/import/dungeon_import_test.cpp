@@ -24,6 +24,17 @@ TEST_F(DungeonImport, InitialExplorationsGiveTheLevels)
     EXPECT_EQ(world->dungeon(1).levels, 2);
 }
 
+TEST_F(DungeonImport, TheRecordKeepsALevelCountAboveTen)
+{
+    std::string report = readFile(reportPath("plain_city.html"));
+    const std::size_t at2 = report.find("empty level 2 ");
+    ASSERT_NE(at2, std::string::npos);
+    report.replace(at2, 14, "empty level 12 ");
+    readText(report);
+    EXPECT_EQ(at(8, 25).note, "DUNGEON: Sunken Crypt.  12+ levels.");
+    EXPECT_EQ(world->dungeon(1).levels, 12);
+}
+
 TEST_F(DungeonImport, ARecordOfTheSameNameTakesTheDungeonFromTheClaimedSlot)
 {
     world->dungeon(5).name = "black pit";
