@@ -95,13 +95,13 @@ void readShopField(ReportImport &im, long settlement, std::string_view field)
         clearRows(im.world, static_cast<int>(settlement), static_cast<int>(r.shopNumber));
     if (!contains(field, "Quest") && field.size() <= 26)
         return;
-    const std::optional<ItemRow> row = parseItemRow(im.in, shopLine ? midChars(field, 29) : field, shopLine);
-    if (!row)
-        return;
-    // Rows past the twentieth have no place in the shop.
+    // The row is counted before its kind is known, so a quest row without a
+    // name to cut keeps its place, empty. Rows past the twentieth have no
+    // place in the shop.
     if (r.itemCount <= kItemsPerShop)
         ++r.itemCount;
-    if (stored)
+    const std::optional<ItemRow> row = parseItemRow(im.in, shopLine ? midChars(field, 29) : field, shopLine);
+    if (row && stored)
         storeRow(im, settlement, *row);
 }
 

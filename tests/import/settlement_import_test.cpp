@@ -142,6 +142,8 @@ TEST_F(SettlementImport, EldersQuestsAndRowsBeyondTheTwentieth)
     shape.heading = "VILLAGE OF OTTERBY (99)";
     shape.afterHeading = {"", ""};
     shape.shops = {shopHeader("0", "Village Elders", "Quest: Find the lost goat for 20 coins"),
+                   shopHeader("4", "NOTICE BOARD", "Quest offered by nobody in particular today"),
+                   "Quest: Guard the mill for 5 coins",
                    shopHeader("3", "MARKET", tableRow("500", "Row 1", "1"))};
     for (int i = 2; i <= 25; ++i)
         shape.shops.push_back(
@@ -150,6 +152,9 @@ TEST_F(SettlementImport, EldersQuestsAndRowsBeyondTheTwentieth)
     EXPECT_EQ(world->shopName(99, 0), "Village Elders");
     EXPECT_EQ(item(99, 0, 1, ItemField::Name), " Find the lost goat");
     EXPECT_EQ(item(99, 0, 1, ItemField::Price), "20");
+    // A quest row without a name to cut keeps its place, empty.
+    EXPECT_EQ(item(99, 4, 1, ItemField::Name), "");
+    EXPECT_EQ(item(99, 4, 2, ItemField::Name), " Guard the mill");
     EXPECT_EQ(item(99, 3, 20, ItemField::Name), "Row 20");
     EXPECT_EQ(item(99, 3, 20, ItemField::Price), "20");
     EXPECT_EQ(world->settlement(99).x, 45);
