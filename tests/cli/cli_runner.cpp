@@ -26,8 +26,8 @@ CliResult runCli(const std::vector<std::string> &args)
     TempDir dir;
     std::string command = quote(WAYSCRIBE_CLI);
     for (const std::string &a : args)
-        command += " " + quote(a);
-    command += " >" + quote(dir.file("out")) + " 2>" + quote(dir.file("err"));
+        command.append(" ").append(quote(a));
+    command.append(" >").append(quote(dir.file("out"))).append(" 2>").append(quote(dir.file("err")));
     const int raw = std::system(command.c_str());
     CliResult r;
     r.status = WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;

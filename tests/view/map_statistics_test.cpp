@@ -20,7 +20,7 @@ TEST(MapStatistics, TextWithGeneralNumbersAndEvenRounding)
     for (int y = 1; y <= 200 && filled < 12345; ++y)
         for (int x = 1; x <= 200 && filled < 12345; ++x, ++filled)
             w->sector(x, y).terrain = filled < 100 ? 2 : 6;
-    w->sector(200, 200).note = " ";
+    w->sector(200, 200).note.assign(1, ' '); // a note of one blank counts
     w->sector(200, 199).settlementName = "Hamley";
     EXPECT_EQ(mapStatisticsText(*w),
               "The map is 31% complete.\r\n\r\nThere are 12345 filled sectors out of 40000, "
