@@ -73,7 +73,7 @@ std::string replaceAll(std::string_view text, std::string_view from, std::string
 double textValue(std::string_view text)
 {
     // Gather the characters that can form a number, skipping blanks anywhere
-    // as the original conversion did ("1 2" is 12).
+    // ("1 2" is 12), as map files and reports have always been read.
     std::string number;
     std::size_t i = 0;
     auto skip = [&] {
@@ -145,7 +145,8 @@ std::string formatGeneral(double value)
         digits = std::to_string(static_cast<long long>(value));
     } else {
         // Up to 15 significant digits, no trailing zeros, and no zero before
-        // the decimal point of a fraction (" .5"), as the original shows them.
+        // the decimal point of a fraction (" .5"), as messages have always
+        // shown them.
         char buf[64];
         std::snprintf(buf, sizeof buf, "%.15g", value);
         digits = buf;

@@ -9,8 +9,9 @@ namespace wayscribe {
 
 namespace {
 
-// The check of the original table size: it warns once all of the first 110
-// sources already have a price to the same destination.
+// The cost table was once 110 sources wide, and its check stays: it warns
+// once all of the first 110 sources already have a price to the same
+// destination.
 constexpr int kCheckedSources = 110;
 
 const char *const kFullCostWarning =
