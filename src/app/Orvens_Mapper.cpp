@@ -6,7 +6,6 @@
 #include "app/qt_text.h"
 #include "import/batch_import.h"
 #include "import/html_import.h"
-#include "model/new_map.h"
 #include "model/program_state.h"
 #include "model/world.h"
 #include "storage/map_commands.h"

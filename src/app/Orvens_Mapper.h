@@ -108,7 +108,6 @@ private:
     AppPaths paths_;
     TileSheet sheet_;
     Minimap minimap_;
-    QImage toolbarPictures_[8];
 
     MapPicture *Picture1 = nullptr;
     QScrollBar *hscroll = nullptr;
