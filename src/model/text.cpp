@@ -223,8 +223,9 @@ std::string changeCase(std::string_view text, bool proper)
             c = toUpperChar(c);
         else
             c = toLowerChar(c);
-        // Words are separated by blanks, tabs, line breaks and NULs.
-        wordStart = c == ' ' || c == '\t' || c == '\r' || c == '\n' || c == '\0';
+        // Words are separated by blanks, NULs, tabs, line feeds, vertical
+        // tabs, form feeds and carriage returns.
+        wordStart = c == ' ' || c == '\0' || (c >= '\t' && c <= '\r');
     }
     return out;
 }

@@ -52,6 +52,7 @@ TEST(ChangeCase, ProperAndLowerCase)
     EXPECT_EQ(changeCase("hELLO wORLD", false), "hello world");
     EXPECT_EQ(changeCase("o'neil\tthe\xe9LAN", true), "O'neil\tThe\xe9lan");
     EXPECT_EQ(changeCase("\xe9t\xc9", true), "\xc9t\xe9");
+    EXPECT_EQ(changeCase(std::string("a\vb\fc\rd\ne\0f", 11), true), std::string("A\vB\fC\rD\nE\0F", 11));
 }
 
 TEST(CsvReader, ReadsValuesAsCommaSeparatedInputDoes)
