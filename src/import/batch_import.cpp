@@ -21,7 +21,7 @@ constexpr const char *kBatchStatus = "Please wait, batch importing HTML turns...
 // same on every system; ".htm" does not take in ".html".
 bool hasExtension(const std::string &name, std::string_view extension)
 {
-    return name.size() > extension.size() &&
+    return name.size() >= extension.size() &&
            std::string_view(name).substr(name.size() - extension.size()) == extension;
 }
 
