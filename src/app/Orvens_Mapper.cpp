@@ -367,6 +367,8 @@ bool Orvens_Mapper::startUp(const std::string &mapToOpen)
     state_.appFolder = paths_.appFolder;
     state_.optionsFilePath = paths_.optionsFile;
     about_ = new frmAbout(paths_.graphicsFolder, this);
+    about_->adjustSize();
+    centreOverWindow(about_);
     about_->show();
     state_.scrollBusy = 0;
     state_.travelHandOff = 0;
@@ -416,6 +418,11 @@ bool Orvens_Mapper::startUp(const std::string &mapToOpen)
     return true;
 }
 
+void Orvens_Mapper::centreOverWindow(QWidget *window) const
+{
+    window->move(geometry().center() - window->rect().center());
+}
+
 void Orvens_Mapper::setContentsEnabled(bool enabled)
 {
     centralWidget()->setEnabled(enabled);
@@ -434,7 +441,7 @@ void Orvens_Mapper::openSecondary(QWidget *window, bool redrawAfter)
             redrawMap();
     });
     window->setAttribute(Qt::WA_DeleteOnClose);
-    window->move(geometry().center() - window->rect().center());
+    centreOverWindow(window);
     window->show();
     window->raise();
     window->activateWindow();
@@ -628,9 +635,7 @@ void Orvens_Mapper::mnuInformationTravel_Click()
 
 void Orvens_Mapper::mnuHelpAbout_Click()
 {
-    if (!about_) {
-        about_ = new frmAbout(paths_.graphicsFolder, this);
-    }
+    centreOverWindow(about_);
     about_->show();
     about_->raise();
 }

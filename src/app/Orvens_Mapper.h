@@ -73,6 +73,7 @@ private:
     void syncScrollBars();
     void showSector(int x, int y);
     void setContentsEnabled(bool enabled);
+    void centreOverWindow(QWidget *window) const;
     void updateTitle();
 
     // Commands.
