@@ -194,6 +194,23 @@ def stamps(canvas, sprite, colours, places, **kw):
         canvas.stamp(sprite, colours, x, y, **kw)
 
 
+# The cracks of dry ground, as polylines that wrap around the tile's edges.
+CRACKS = (
+    [(0, 4), (3, 5), (6, 4), (8, 6), (11, 6), (13, 4), (16, 4)],
+    [(6, 4), (5, 1), (6, -1)],
+    [(8, 6), (7, 9), (9, 12), (8, 15)],
+    [(9, 12), (12, 12), (14, 10)],
+    [(0, 12), (3, 11), (5, 13)],
+)
+
+
+def cracks(canvas, colour, extra=()):
+    """Draw the cracks of barren ground (and any extra polylines) in one colour."""
+    for path in CRACKS + tuple(extra):
+        for (x0, y0), (x1, y1) in zip(path, path[1:]):
+            canvas.line(x0, y0, x1, y1, colour, wrap=True)
+
+
 def wave(canvas, x, y, crest, trough=None, width=4):
     """A short wave: a raised crest over a darker trough, drawn around the tile's edges."""
     for i in range(width):

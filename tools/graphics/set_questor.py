@@ -103,15 +103,7 @@ def jungle():
 
 def barren():
     c = _dither(YELLOW, BROWN, 1.0)
-    for path in (
-        [(0, 4), (3, 5), (6, 4), (8, 6), (11, 6), (13, 4), (16, 4)],
-        [(6, 4), (5, 1), (6, -1)],
-        [(8, 6), (7, 9), (9, 12), (8, 15)],
-        [(9, 12), (12, 12), (14, 10)],
-        [(0, 12), (3, 11), (5, 13)],
-    ):
-        for (x0, y0), (x1, y1) in zip(path, path[1:]):
-            c.line(x0, y0, x1, y1, BLACK, wrap=True)
+    m.cracks(c, BLACK)
     return c
 
 
