@@ -46,9 +46,9 @@ struct Scene {
         error = sheet.loadTileSet(graphics, "kjc_set1");
         if (error.empty())
             error = sheet.loadMarkers(graphics);
-        state.viewCols = kWidth / 16;
-        state.viewRows = kHeight / 16;
-        state.fullRedraw = 1;
+        state.view.viewCols = kWidth / 16;
+        state.view.viewRows = kHeight / 16;
+        state.view.fullRedraw = 1;
     }
 };
 
@@ -62,7 +62,7 @@ void redraw(benchmark::State &bench, Scene &scene)
         Refresh_Map(scene.picture, scene.minimap, *scene.world, scene.state, scene.sheet);
     // Time per tile, the minimap's share included.
     bench.counters["per_tile"] =
-        benchmark::Counter(scene.state.viewCols * scene.state.viewRows,
+        benchmark::Counter(scene.state.view.viewCols * scene.state.view.viewRows,
                            benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
     bench.SetLabel(kReference);
 }
@@ -74,18 +74,18 @@ void BM_RefreshMap_GeneratedWorld(benchmark::State &bench)
     generateWorld(*scene.world, game, {});
     // The busiest part of the world: the most roads, notes and settlements.
     int best = -1;
-    for (int top = 0; top <= kMapSize - scene.state.viewRows; top += 10)
-        for (int left = 0; left <= kMapSize - scene.state.viewCols; left += 10) {
+    for (int top = 0; top <= kMapSize - scene.state.view.viewRows; top += 10)
+        for (int left = 0; left <= kMapSize - scene.state.view.viewCols; left += 10) {
             int marks = 0;
-            for (int y = top + 1; y <= top + scene.state.viewRows; ++y)
-                for (int x = left + 1; x <= left + scene.state.viewCols; ++x) {
+            for (int y = top + 1; y <= top + scene.state.view.viewRows; ++y)
+                for (int x = left + 1; x <= left + scene.state.view.viewCols; ++x) {
                     const Sector &s = scene.world->sector(x, y);
                     marks += (s.terrain >= kRoad && s.terrain <= kCity) + !s.note.empty();
                 }
             if (marks > best) {
                 best = marks;
-                scene.state.viewLeft = static_cast<std::int16_t>(left);
-                scene.state.viewTop = static_cast<std::int16_t>(top);
+                scene.state.view.viewLeft = static_cast<std::int16_t>(left);
+                scene.state.view.viewTop = static_cast<std::int16_t>(top);
             }
         }
     redraw(bench, scene);

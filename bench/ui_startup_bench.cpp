@@ -59,7 +59,7 @@ int main(int argc, char **argv)
         const double ms = timer.nsecsElapsed() / 1e6;
         best = std::min(best, ms);
         total += ms;
-        if (state.mapFileName != example) {
+        if (state.document.mapFileName != example) {
             std::fprintf(stderr, "the example world was not reopened\n");
             return 1;
         }

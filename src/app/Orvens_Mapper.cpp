@@ -270,50 +270,48 @@ void Orvens_Mapper::showStatus(const std::string &text)
 
 void Orvens_Mapper::syncScrollBars()
 {
-    state_.scrollBusy = 1;
-    hscroll->setMaximum(std::max(0, kMapSize - state_.viewCols));
-    vscroll->setMaximum(std::max(0, kMapSize - state_.viewRows));
-    hscroll->setPageStep(std::max(1, state_.viewCols / 2));
-    vscroll->setPageStep(std::max(1, state_.viewRows / 2));
-    vscroll->setValue(state_.viewTop);
-    hscroll->setValue(state_.viewLeft);
-    state_.scrollBusy = 0;
+    state_.view.scrollBusy = 1;
+    hscroll->setMaximum(std::max(0, kMapSize - state_.view.viewCols));
+    vscroll->setMaximum(std::max(0, kMapSize - state_.view.viewRows));
+    hscroll->setPageStep(std::max(1, state_.view.viewCols / 2));
+    vscroll->setPageStep(std::max(1, state_.view.viewRows / 2));
+    vscroll->setValue(state_.view.viewTop);
+    hscroll->setValue(state_.view.viewLeft);
+    state_.view.scrollBusy = 0;
 }
 
 void Orvens_Mapper::updateTitle()
 {
     // The map's file name, and a star while it has unsaved changes.
-    const QString name = state_.mapFileName.empty() ? QString("Untitled")
-                                                    : QFileInfo(toQString(state_.mapFileName)).fileName();
-    setWindowTitle(name + (state_.mapChanged ? "*" : "") + " - Wayscribe");
+    const QString name = state_.document.mapFileName.empty() ? QString("Untitled")
+                                                    : QFileInfo(toQString(state_.document.mapFileName)).fileName();
+    setWindowTitle(name + (state_.document.mapChanged ? "*" : "") + " - Wayscribe");
 }
 
 void Orvens_Mapper::redrawMap()
 {
     updateTitle();
     syncScrollBars();
-    state_.fullRedraw = 1;
+    state_.view.fullRedraw = 1;
     if (Refresh_Map(Picture1->backBuffer(), minimap_, world_, state_, sheet_)) {
         Picture1->update();
         MiniMap->setImage(minimap_.image);
     }
-    state_.fullRedraw = 0;
+    state_.view.fullRedraw = 0;
 }
 
 void Orvens_Mapper::syncLockControls()
 {
-    chkLocked->setChecked(state_.mapLocked == 1);
-    mnuEditLock->setChecked(state_.mapLocked == 1);
+    chkLocked->setChecked(state_.document.mapLocked == 1);
+    mnuEditLock->setChecked(state_.document.mapLocked == 1);
 }
 
 void Orvens_Mapper::layoutMapPicture()
 {
     if (isMinimized())
         return;
-    state_.viewPixelWidth = static_cast<std::int16_t>(std::min(Picture1->width(), 32767));
-    state_.viewPixelHeight = static_cast<std::int16_t>(std::min(Picture1->height(), 32767));
-    state_.viewCols = static_cast<std::int16_t>(state_.viewPixelWidth / 16);
-    state_.viewRows = static_cast<std::int16_t>(state_.viewPixelHeight / 16);
+    state_.view.viewCols = static_cast<std::int16_t>(std::min(Picture1->width(), 32767) / 16);
+    state_.view.viewRows = static_cast<std::int16_t>(std::min(Picture1->height(), 32767) / 16);
     // Growing the window pulls the origin back so the view never runs past
     // the world's last sector.
     clampView(state_);
@@ -370,18 +368,17 @@ bool Orvens_Mapper::startUp(const std::string &mapToOpen)
     about_->adjustSize();
     centreOverWindow(about_);
     about_->show();
-    state_.scrollBusy = 0;
-    state_.travelHandOff = 0;
-    state_.mapLocked = 0;
-    state_.gameNumber = 0;
-    state_.mapFileName.clear();
-    state_.selDungeon = 0;
+    state_.view.scrollBusy = 0;
+    state_.document.mapLocked = 0;
+    state_.document.gameNumber = 0;
+    state_.document.mapFileName.clear();
+    state_.selection.selDungeon = 0;
     state_.options.lmol = false;
     state_.options.wmol.clear();
-    state_.mapChanged = 0;
+    state_.document.mapChanged = 0;
     enableTileSetItems();
-    state_.viewLeft = 0;
-    state_.viewTop = 0;
+    state_.view.viewLeft = 0;
+    state_.view.viewTop = 0;
     readOptionsFile(state_.optionsFilePath, state_);
     if (!loadPictures())
         return false;
@@ -390,10 +387,9 @@ bool Orvens_Mapper::startUp(const std::string &mapToOpen)
     txtTotalMPs->setText("0");
     mpbox->setText("0");
     world_.clear();
-    state_.pathX.fill(0);
-    state_.pathY.fill(0);
-    state_.moveCounterOn = 0;
-    state_.fileBusy = 0;
+    state_.movement.pathX.fill(0);
+    state_.movement.pathY.fill(0);
+    state_.document.fileBusy = 0;
     layoutMapPicture();
     if (!mapToOpen.empty()) {
         // A map named on the command line opens like File, Open, in place of
@@ -402,8 +398,8 @@ bool Orvens_Mapper::startUp(const std::string &mapToOpen)
     } else if (state_.options.lmol && !state_.options.wmol.empty() && fileExists(state_.options.wmol)) {
         about_->setPleaseWaitVisible(true);
         Load_Map(world_, state_, platform_, state_.options.wmol);
-        state_.viewLeft = state_.options.xLeft;
-        state_.viewTop = state_.options.yTop;
+        state_.view.viewLeft = state_.options.xLeft;
+        state_.view.viewTop = state_.options.yTop;
         about_->setPleaseWaitVisible(false);
     }
     clampView(state_);
@@ -481,37 +477,35 @@ void Orvens_Mapper::showSector(int x, int y)
 
 void Orvens_Mapper::Picture1_MouseMove(int column, int row)
 {
-    const int x = state_.viewLeft + column;
-    const int y = state_.viewTop + row;
-    if (column < 1 || row < 1 || column > state_.viewCols || row > state_.viewRows || !isSectorIndex(x) ||
+    const int x = state_.view.viewLeft + column;
+    const int y = state_.view.viewTop + row;
+    if (column < 1 || row < 1 || column > state_.view.viewCols || row > state_.view.viewRows || !isSectorIndex(x) ||
         !isSectorIndex(y))
         return;
-    state_.hoverX = static_cast<std::int16_t>(x);
-    state_.hoverY = static_cast<std::int16_t>(y);
     showSector(x, y);
 }
 
 void Orvens_Mapper::hscroll_Change(int value)
 {
-    if (state_.scrollBusy)
+    if (state_.view.scrollBusy)
         return;
-    state_.viewLeft = static_cast<std::int16_t>(std::min(value, kMapSize - state_.viewCols));
-    if (!state_.fileBusy)
+    state_.view.viewLeft = static_cast<std::int16_t>(std::min(value, kMapSize - state_.view.viewCols));
+    if (!state_.document.fileBusy)
         redrawMap();
 }
 
 void Orvens_Mapper::vscroll_Change(int value)
 {
-    if (state_.scrollBusy)
+    if (state_.view.scrollBusy)
         return;
-    state_.viewTop = static_cast<std::int16_t>(std::min(value, kMapSize - state_.viewRows));
-    if (!state_.fileBusy)
+    state_.view.viewTop = static_cast<std::int16_t>(std::min(value, kMapSize - state_.view.viewRows));
+    if (!state_.document.fileBusy)
         redrawMap();
 }
 
 void Orvens_Mapper::MiniMap_MouseDown(double x, double y)
 {
-    if (state_.fileBusy)
+    if (state_.document.fileBusy)
         return;
     moveViewToMinimapPoint(state_, x, y);
     redrawMap();
@@ -532,7 +526,7 @@ void Orvens_Mapper::cmdNew_Click()
 
 void Orvens_Mapper::mnuFileNew_Click()
 {
-    if (!state_.fileBusy)
+    if (!state_.document.fileBusy)
         newMapCommand(world_, state_, platform_);
 }
 
@@ -543,20 +537,20 @@ void Orvens_Mapper::cmdLoad_Click()
 
 void Orvens_Mapper::mnuFileOpen_Click()
 {
-    if (!state_.fileBusy)
+    if (!state_.document.fileBusy)
         loadMapCommand(world_, state_, platform_, true);
 }
 
 void Orvens_Mapper::cmdSave_Click()
 {
-    if (!state_.fileBusy)
-        Save_Map(world_, state_, platform_, state_.mapFileName.find_first_of("/\\") == std::string::npos);
+    if (!state_.document.fileBusy)
+        Save_Map(world_, state_, platform_, state_.document.mapFileName.find_first_of("/\\") == std::string::npos);
     updateTitle();
 }
 
 void Orvens_Mapper::mnuFileSaveAs_Click()
 {
-    if (!state_.fileBusy)
+    if (!state_.document.fileBusy)
         Save_Map(world_, state_, platform_, true);
     updateTitle();
 }
@@ -568,19 +562,19 @@ void Orvens_Mapper::mnuFileMerge_Click()
 
 void Orvens_Mapper::mnuFileImport_Click()
 {
-    if (!state_.fileBusy)
+    if (!state_.document.fileBusy)
         Import_HTML(world_, state_, platform_);
 }
 
 void Orvens_Mapper::mnuFileBatch_Click()
 {
-    if (!state_.fileBusy)
+    if (!state_.document.fileBusy)
         batchImportHtml(world_, state_, platform_);
 }
 
 void Orvens_Mapper::mnuFileQuestor_Click()
 {
-    if (!state_.fileBusy)
+    if (!state_.document.fileBusy)
         importQuestorCommand(world_, state_, platform_);
 }
 
@@ -601,15 +595,15 @@ void Orvens_Mapper::mnuEditGame_Click()
 
 void Orvens_Mapper::chkLocked_Click()
 {
-    state_.mapLocked = chkLocked->isChecked() ? 1 : 0;
-    mnuEditLock->setChecked(state_.mapLocked == 1);
+    state_.document.mapLocked = chkLocked->isChecked() ? 1 : 0;
+    mnuEditLock->setChecked(state_.document.mapLocked == 1);
 }
 
 void Orvens_Mapper::mnuEditLock_Click()
 {
     // The item's check mark has already flipped: it now shows the new state.
-    state_.mapLocked = mnuEditLock->isChecked() ? 1 : 0;
-    chkLocked->setChecked(state_.mapLocked == 1);
+    state_.document.mapLocked = mnuEditLock->isChecked() ? 1 : 0;
+    chkLocked->setChecked(state_.document.mapLocked == 1);
 }
 
 void Orvens_Mapper::mnuEditWater_Click()
@@ -629,7 +623,7 @@ void Orvens_Mapper::mnuInformationPercent_Click()
 
 void Orvens_Mapper::mnuInformationTravel_Click()
 {
-    if (!state_.fileBusy)
+    if (!state_.document.fileBusy)
         openSecondary(new frmRouteFinder(world_, state_, platform_, this));
 }
 
@@ -643,7 +637,7 @@ void Orvens_Mapper::mnuHelpAbout_Click()
 void Orvens_Mapper::closeEvent(QCloseEvent *event)
 {
     // An import or a save in progress finishes first.
-    if (state_.fileBusy || !confirmExit(world_, state_, platform_)) {
+    if (state_.document.fileBusy || !confirmExit(world_, state_, platform_)) {
         event->ignore();
         return;
     }

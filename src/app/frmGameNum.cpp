@@ -22,7 +22,7 @@ frmGameNum::frmGameNum(ProgramState &state, QWidget *mainWindow)
     setWindowTitle("Change Game Number:");
     auto *layout = new QVBoxLayout(this);
     auto *label = new QLabel("&Please input game # of this map:", this);
-    txtGameNum = new QLineEdit(QString::number(state.gameNumber), this);
+    txtGameNum = new QLineEdit(QString::number(state.document.gameNumber), this);
     txtGameNum->setObjectName("txtGameNum");
     // The game number is one byte: only 0 to 255 can be typed.
     txtGameNum->setValidator(new QRegularExpressionValidator(
@@ -42,7 +42,7 @@ frmGameNum::frmGameNum(ProgramState &state, QWidget *mainWindow)
 void frmGameNum::closeEvent(QCloseEvent *event)
 {
     const double value = roundHalfEven(textValue(trimBlanks(fromQString(txtGameNum->text()))));
-    state_.gameNumber = static_cast<std::uint8_t>(value >= 0 && value <= 255 ? value : 0);
+    state_.document.gameNumber = static_cast<std::uint8_t>(value >= 0 && value <= 255 ? value : 0);
     event->accept();
 }
 

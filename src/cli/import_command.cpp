@@ -56,7 +56,7 @@ int prepare(const ParsedArgs &p, ImportRun &run, std::ostream &err)
         readOptionsFile(*ini, run.state);
     }
     if (const std::string *map = p.option("--map")) {
-        const MapReadResult r = readMapFile(*map, *run.world, run.state.gameNumber);
+        const MapReadResult r = readMapFile(*map, *run.world, run.state.document.gameNumber);
         if (!r.ok) {
             err << "wayscribe-cli: cannot read map " << r.error.describe() << '\n';
             return kInputError;
@@ -68,7 +68,7 @@ int prepare(const ParsedArgs &p, ImportRun &run, std::ostream &err)
 int save(const ImportRun &run, const std::string &path, std::ostream &err)
 {
     FileError error;
-    if (writeMapFile(path, *run.world, run.state.gameNumber, error))
+    if (writeMapFile(path, *run.world, run.state.document.gameNumber, error))
         return kOk;
     err << "wayscribe-cli: cannot save map " << error.describe() << '\n';
     return kInputError;

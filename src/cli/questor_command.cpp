@@ -22,7 +22,7 @@ static int runQuestor(const Args &args, std::ostream &, std::ostream &err)
     auto world = std::make_unique<World>();
     ProgramState state;
     if (const std::string *map = p.option("--map")) {
-        const MapReadResult r = readMapFile(*map, *world, state.gameNumber);
+        const MapReadResult r = readMapFile(*map, *world, state.document.gameNumber);
         if (!r.ok) {
             err << "wayscribe-cli: cannot read map " << r.error.describe() << '\n';
             return kInputError;
@@ -35,7 +35,7 @@ static int runQuestor(const Args &args, std::ostream &, std::ostream &err)
         return kInputError;
     }
     FileError error;
-    if (!writeMapFile(*p.option("--out"), *world, state.gameNumber, error)) {
+    if (!writeMapFile(*p.option("--out"), *world, state.document.gameNumber, error)) {
         err << "wayscribe-cli: cannot save map " << error.describe() << '\n';
         return kInputError;
     }

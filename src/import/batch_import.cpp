@@ -62,12 +62,12 @@ BatchOutcome importHtmlFolder(World &world, ProgramState &state, Platform &platf
                               const std::string &folder)
 {
     BatchOutcome outcome;
-    if (state.fileBusy)
+    if (state.document.fileBusy)
         return outcome;
-    state.mapChanged = 1;
+    state.document.mapChanged = 1;
     platform.setStatus(kBatchStatus);
     platform.setWaitCursor(true);
-    state.fileBusy = 1;
+    state.document.fileBusy = 1;
     state.options.lastImp = withSeparator(folder);
     writeOptions(state, platform);
 
@@ -99,14 +99,14 @@ BatchOutcome importHtmlFolder(World &world, ProgramState &state, Platform &platf
 
     platform.setWaitCursor(false);
     platform.setStatus("");
-    state.fileBusy = 0;
+    state.document.fileBusy = 0;
     platform.redrawMap();
     return outcome;
 }
 
 void batchImportHtml(World &world, ProgramState &state, Platform &platform)
 {
-    if (state.fileBusy)
+    if (state.document.fileBusy)
         return;
     const std::string path = platform.chooseOpenFile(
         {"Select folder with HTML turns...", kHtmlFileFilter, state.options.lastImp, ""});

@@ -17,10 +17,10 @@ namespace {
 // the middle of the view, kept inside the world.
 void showImportedMap(ProgramState &state, Platform &platform, long startX, long startY)
 {
-    const long left = std::max(1L, startX - state.viewCols / 2 + 5);
-    const long top = std::max(1L, startY - state.viewRows / 2 + 5);
-    state.viewLeft = static_cast<std::int16_t>(std::min<long>(left, kMapSize));
-    state.viewTop = static_cast<std::int16_t>(std::min<long>(top, kMapSize));
+    const long left = std::max(1L, startX - state.view.viewCols / 2 + 5);
+    const long top = std::max(1L, startY - state.view.viewRows / 2 + 5);
+    state.view.viewLeft = static_cast<std::int16_t>(std::min<long>(left, kMapSize));
+    state.view.viewTop = static_cast<std::int16_t>(std::min<long>(top, kMapSize));
     clampView(state);
     platform.redrawMap();
 }
@@ -29,12 +29,12 @@ void showImportedMap(ProgramState &state, Platform &platform, long startX, long 
 
 ReportResult importHtmlFile(World &world, ProgramState &state, Platform &platform, const std::string &path)
 {
-    if (state.fileBusy)
+    if (state.document.fileBusy)
         return ReportResult::NotOpened;
-    state.mapChanged = 1;
+    state.document.mapChanged = 1;
     platform.setStatus("Please wait, importing HTML turn...");
     platform.setWaitCursor(true);
-    state.fileBusy = 1;
+    state.document.fileBusy = 1;
     state.options.lastImp = folderPart(path);
     writeOptions(state, platform);
 
@@ -42,7 +42,7 @@ ReportResult importHtmlFile(World &world, ProgramState &state, Platform &platfor
 
     platform.setStatus("");
     platform.setWaitCursor(false);
-    state.fileBusy = 0;
+    state.document.fileBusy = 0;
     if (outcome.result == ReportResult::Imported && !outcome.aborted && outcome.mapSeen)
         showImportedMap(state, platform, outcome.mapStartX, outcome.mapStartY);
     else if (outcome.result == ReportResult::Stopped)
@@ -52,7 +52,7 @@ ReportResult importHtmlFile(World &world, ProgramState &state, Platform &platfor
 
 void Import_HTML(World &world, ProgramState &state, Platform &platform)
 {
-    if (state.fileBusy)
+    if (state.document.fileBusy)
         return;
     const std::string path =
         platform.chooseOpenFile({"Import HTML Turn...", kHtmlFileFilter, state.options.lastImp, ""});

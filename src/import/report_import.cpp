@@ -80,12 +80,12 @@ void checkGameNumber(ReportImport &im)
     const auto game =
         static_cast<std::uint8_t>(im.in.wholeNumber(midChars(trimmed, 23, 2), 0, 255, "game number"));
     ProgramState &state = im.state;
-    if (state.gameNumber == 0) {
-        state.gameNumber = game;
-    } else if (game != state.gameNumber) {
+    if (state.document.gameNumber == 0) {
+        state.document.gameNumber = game;
+    } else if (game != state.document.gameNumber) {
         if (!im.settings.batch)
             im.platform.message("You tried importing from G" + formatPlain(game) + "\r\n" +
-                                    "But this map is for G" + formatPlain(state.gameNumber) + "\r\n" +
+                                    "But this map is for G" + formatPlain(state.document.gameNumber) + "\r\n" +
                                     "Aborting Import.",
                                 kProgramTitle, MessageButtons::Ok, MessageIcon::None);
         im.report.aborted = true;

@@ -8,18 +8,17 @@ namespace wayscribe {
 
 void NewMap(World &world, ProgramState &state, Platform &platform)
 {
-    state.mapFileName.clear();
-    state.selDungeon = 0;
-    state.dungeonFormOpen = 0;
+    state.document.mapFileName.clear();
+    state.selection.selDungeon = 0;
     platform.setStatus("Please wait, clearing map...");
     platform.setWaitCursor(true);
-    state.gameNumber = 0;
+    state.document.gameNumber = 0;
     world.clear();
-    state.selNumber = 0;
-    state.selShop = 0;
-    state.selX = 0;
-    state.selY = 0;
-    state.selSettlement = 0;
+    state.selection.selNumber = 0;
+    state.selection.selShop = 0;
+    state.selection.selX = 0;
+    state.selection.selY = 0;
+    state.selection.selSettlement = 0;
     platform.setStatus("");
     platform.setWaitCursor(false);
     platform.redrawMap();

@@ -23,42 +23,50 @@ struct Options {
     std::string graphicsSetName = "kjc_set1";
 };
 
-inline constexpr int kMaxPathEntries = 100;
-
-// The small state of the main window that every part of the program shares.
-struct ProgramState {
-    std::uint8_t gameNumber = 0;
+// The map as a file: where it lives, which game it belongs to, whether it
+// has unsaved changes, and whether a file job or the lock holds it.
+struct DocumentState {
     std::string mapFileName;
+    std::uint8_t gameNumber = 0;
     std::uint8_t mapChanged = 0;
     std::uint8_t fileBusy = 0;
     std::uint8_t mapLocked = 0;
+};
+
+// The part of the world the map picture shows, and the flags of its redraw.
+struct ViewState {
     std::int16_t fullRedraw = 0;
     std::int16_t scrollBusy = 0;
-    std::int16_t viewLeft = 0;
+    std::int16_t viewLeft = 0; // the top-left visible sector is (viewLeft + 1, viewTop + 1)
     std::int16_t viewTop = 0;
-    std::int16_t viewPixelWidth = 0;
-    std::int16_t viewPixelHeight = 0;
-    std::int16_t viewCols = 0;
+    std::int16_t viewCols = 0; // whole sectors visible across and down
     std::int16_t viewRows = 0;
-    std::int16_t hoverX = 0;
-    std::int16_t hoverY = 0;
+};
+
+// What the person last picked, handed from window to window.
+struct Selections {
     std::uint8_t selX = 0;
     std::uint8_t selY = 0;
     std::uint8_t selSettlement = 0;
     std::int16_t selNumber = 0;
-    std::uint8_t travelHandOff = 0;
     std::int16_t selShop = 0;
-    std::int16_t selItem = 0;
-    std::int16_t selShopItemCount = 0;
-    std::string notesSearchText;
     std::int16_t selDungeon = 0;
-    std::int16_t dungeonFormOpen = 0;
-    std::int16_t moveMode = 0;
+};
+
+inline constexpr int kMaxPathEntries = 100;
+
+// The movement counter's path: entry 0 is the start square.
+struct MovementPath {
     std::array<std::uint8_t, kMaxPathEntries + 1> pathX{};
     std::array<std::uint8_t, kMaxPathEntries + 1> pathY{};
-    std::int16_t moveTotal = 0;
-    std::int16_t moveSteps = 0;
-    std::uint8_t moveCounterOn = 0;
+};
+
+// The small state of the main window that every part of the program shares.
+struct ProgramState {
+    DocumentState document;
+    ViewState view;
+    Selections selection;
+    MovementPath movement;
     std::string appFolder;
     // Where the options file lives: beside the program, or in the person's
     // configuration folder when the program's folder cannot be written.

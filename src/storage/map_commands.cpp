@@ -30,7 +30,7 @@ namespace {
 // The end of every file job, whether it completed or not.
 void finishFileJob(ProgramState &state, Platform &platform)
 {
-    state.fileBusy = 0;
+    state.document.fileBusy = 0;
     platform.setWaitCursor(false);
     platform.setStatus("");
 }
@@ -45,23 +45,23 @@ bool Load_Map(World &world, ProgramState &state, Platform &platform, const std::
         if (path.empty())
             return false;
     }
-    state.mapChanged = 0;
+    state.document.mapChanged = 0;
     platform.setStatus("Please wait, loading map...");
     platform.setWaitCursor(true);
-    state.fileBusy = 1;
-    state.mapFileName = path;
+    state.document.fileBusy = 1;
+    state.document.mapFileName = path;
     state.options.lastFile = folderPart(path);
     state.options.wmol = path;
     writeOptions(state, platform);
 
-    const MapReadResult result = readMapFile(path, world, state.gameNumber);
+    const MapReadResult result = readMapFile(path, world, state.document.gameNumber);
     finishFileJob(state, platform);
     if (!result.ok) {
         // The model now mixes the old map with the part of the file that
         // could be read: keep it marked as changed so that nothing is
         // discarded without a question.
         const bool partlyRead = result.error.line > 2;
-        state.mapChanged = partlyRead ? 1 : state.mapChanged;
+        state.document.mapChanged = partlyRead ? 1 : state.document.mapChanged;
         platform.message(
             partlyRead ? "The map file could not be read completely. Everything up to the broken "
                          "line has been loaded; the rest of the map is as it was."
@@ -71,7 +71,7 @@ bool Load_Map(World &world, ProgramState &state, Platform &platform, const std::
         return false;
     }
     if (state.options.loadLock) {
-        state.mapLocked = 1;
+        state.document.mapLocked = 1;
         platform.mapLockChanged();
     }
     platform.redrawMap();
@@ -89,21 +89,21 @@ bool Save_Map(World &world, ProgramState &state, Platform &platform, bool choose
             platform.message("Are you sure you wish to over-write this file?", "Sure?", MessageButtons::YesNo,
                              MessageIcon::Question) != Answer::Yes)
             return false;
-        state.mapChanged = 0;
-        state.mapFileName = target;
+        state.document.mapChanged = 0;
+        state.document.mapFileName = target;
     } else {
-        state.mapChanged = 0;
-        target = state.mapFileName;
+        state.document.mapChanged = 0;
+        target = state.document.mapFileName;
     }
     state.options.wmol = target;
     platform.setStatus("Please wait, saving map...");
     platform.setWaitCursor(true);
-    state.fileBusy = 1;
+    state.document.fileBusy = 1;
     FileError error;
-    const bool ok = writeMapFile(target, world, state.gameNumber, error);
+    const bool ok = writeMapFile(target, world, state.document.gameNumber, error);
     finishFileJob(state, platform);
     if (!ok) {
-        state.mapChanged = 1;
+        state.document.mapChanged = 1;
         platform.message("The map could not be saved. The file on disk is unchanged and the map is still "
                          "marked as changed.",
                          kProgramTitle, MessageButtons::Ok, MessageIcon::Critical, error.describe());
@@ -113,32 +113,32 @@ bool Save_Map(World &world, ProgramState &state, Platform &platform, bool choose
 
 void newMapCommand(World &world, ProgramState &state, Platform &platform)
 {
-    if (state.mapChanged == 1 &&
+    if (state.document.mapChanged == 1 &&
         platform.message("Are you sure you wish to New the map without saving?", "Sure?",
                          MessageButtons::YesNo, MessageIcon::Question) == Answer::Yes)
-        state.mapChanged = 0;
-    if (state.mapChanged == 0)
+        state.document.mapChanged = 0;
+    if (state.document.mapChanged == 0)
         NewMap(world, state, platform);
 }
 
 void loadMapCommand(World &world, ProgramState &state, Platform &platform, bool fromMenu)
 {
-    if (state.mapChanged == 1) {
+    if (state.document.mapChanged == 1) {
         const Answer a =
             fromMenu ? platform.message("Are you sure you wish to load a new map without saving?", "Sure?",
                                         MessageButtons::YesNo, MessageIcon::Critical)
                      : platform.message("Are you sure you wish to Load a map without saving current map?",
                                         "Sure?", MessageButtons::YesNo, MessageIcon::Question);
         if (a == Answer::Yes)
-            state.mapChanged = 0;
+            state.document.mapChanged = 0;
     }
-    if (state.mapChanged == 0)
+    if (state.document.mapChanged == 0)
         Load_Map(world, state, platform, "");
 }
 
 bool confirmExit(World &world, ProgramState &state, Platform &platform)
 {
-    if (state.mapChanged != 1)
+    if (state.document.mapChanged != 1)
         return true;
     switch (platform.message("Do you wish to save the map before exiting?", "Save before exit?",
                              MessageButtons::YesNoCancel, MessageIcon::Information)) {
@@ -146,7 +146,7 @@ bool confirmExit(World &world, ProgramState &state, Platform &platform)
         Save_Map(world, state, platform, true);
         return true;
     case Answer::No:
-        state.mapChanged = 0;
+        state.document.mapChanged = 0;
         return true;
     default:
         return false;
@@ -158,11 +158,11 @@ void mergeMapCommand(World &world, ProgramState &state, Platform &platform)
     const std::string path = platform.chooseOpenFile({"Merge Map File...", kMapFileFilter, "", ""});
     if (path.empty() || !contains(path, ".om1"))
         return;
-    state.mapChanged = 1;
+    state.document.mapChanged = 1;
     platform.setStatus("Please wait, merging maps...");
     platform.setWaitCursor(true);
-    state.fileBusy = 1;
-    const MapReadResult result = mergeMapFile(path, world, state.gameNumber);
+    state.document.fileBusy = 1;
+    const MapReadResult result = mergeMapFile(path, world, state.document.gameNumber);
     if (!result.ok)
         platform.message("There was an unknown error merging the map.", kProgramTitle, MessageButtons::Ok,
                          MessageIcon::None, result.error.describe());

@@ -71,7 +71,7 @@ void applyOption(std::string_view value, ProgramState &state)
 
 void readOptionsFile(const std::string &path, ProgramState &state)
 {
-    state.mapLocked = 0;
+    state.document.mapLocked = 0;
     Options &o = state.options;
     o.graphicsSetName = "kjc_set1";
     o.importMap = o.importShops = o.importHides = o.importDungeons = o.extra = true;
@@ -121,8 +121,8 @@ std::string optionsFileText(const ProgramState &state)
     line(std::string("LoadLock = ") + flag(o.loadLock));
     line(std::string("LMOL = ") + flag(o.lmol));
     line("WMOL = " + o.wmol);
-    line("XLEFT = " + formatPlain(state.viewLeft));
-    line("YTOP = " + formatPlain(state.viewTop));
+    line("XLEFT = " + formatPlain(state.view.viewLeft));
+    line("YTOP = " + formatPlain(state.view.viewTop));
     line("LastImp = " + o.lastImp);
     line("LastFile = " + o.lastFile);
     line("");

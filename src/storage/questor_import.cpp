@@ -30,16 +30,16 @@ QuestorImportResult readQuestorMap(const std::string &mapPath, World &world, Pro
 
 void import_questor(World &world, ProgramState &state, Platform &platform)
 {
-    state.mapFileName.clear();
+    state.document.mapFileName.clear();
     const std::string path = platform.chooseOpenFile({kQuestorDialogTitle, kQuestorFileFilter, "", ""});
     if (path.empty())
         return;
-    state.mapChanged = 0;
+    state.document.mapChanged = 0;
     platform.setStatus(kQuestorStatus);
     platform.setWaitCursor(true);
-    state.fileBusy = 1;
+    state.document.fileBusy = 1;
     const QuestorImportResult result = readQuestorMap(path, world, state, platform);
-    state.fileBusy = 0;
+    state.document.fileBusy = 0;
     platform.setWaitCursor(false);
     platform.setStatus("");
     if (!result.ok) {
@@ -47,7 +47,7 @@ void import_questor(World &world, ProgramState &state, Platform &platform)
             // The model now mixes the map that was there with part of the
             // import, which no file holds: keep it from being discarded
             // without a question.
-            state.mapChanged = 1;
+            state.document.mapChanged = 1;
             platform.message(
                 "The QuestOR map could not be imported completely. Everything before the error has "
                 "been imported; the rest of the map is as it was.",
@@ -62,13 +62,13 @@ void import_questor(World &world, ProgramState &state, Platform &platform)
 
 void importQuestorCommand(World &world, ProgramState &state, Platform &platform)
 {
-    if (state.fileBusy != 0)
+    if (state.document.fileBusy != 0)
         return;
-    if (state.mapChanged == 1 &&
+    if (state.document.mapChanged == 1 &&
         platform.message("Are you sure you wish to Import a QuestOR map without saving?", "Sure?",
                          MessageButtons::YesNo, MessageIcon::Question) == Answer::Yes)
-        state.mapChanged = 0;
-    if (state.mapChanged == 0)
+        state.document.mapChanged = 0;
+    if (state.document.mapChanged == 0)
         import_questor(world, state, platform);
 }
 

@@ -94,13 +94,13 @@ bool readNotes(NamesInput &in, World &world, ProgramState &state)
     if (!in.readByte(x, what))
         return false;
     while (true) {
-        state.selX = static_cast<std::uint8_t>(x);
+        state.selection.selX = static_cast<std::uint8_t>(x);
         if (x == kNotesEnd)
             return in.skip(4, what);
         int y;
         if (!in.readByte(y, what))
             return false;
-        state.selY = static_cast<std::uint8_t>(y);
+        state.selection.selY = static_cast<std::uint8_t>(y);
         if (!isSectorTableIndex(x) || !isSectorTableIndex(y))
             return in.fail(in.lastLine(), "a note is placed at X " + std::to_string(x) + ", Y " +
                                               std::to_string(y) + ", outside the map");

@@ -115,7 +115,7 @@ std::optional<std::string> findRoutesWith(RouteSearchFunction search, const Worl
     if (started)
         started(text);
     platform.setWaitCursor(true);
-    state.fileBusy = 1;
+    state.document.fileBusy = 1;
 
     ClosestSettlement closest{ends.start, settlementPositions(world).distance(ends.start, ends.goal)};
     auto table = std::make_unique<JourneyTable>();
@@ -131,7 +131,7 @@ std::optional<std::string> findRoutesWith(RouteSearchFunction search, const Worl
     }
     text += result->found ? std::string("Finished.\r\n") : failureText(world, fromText, toText, closest);
 
-    state.fileBusy = 0;
+    state.document.fileBusy = 0;
     platform.setWaitCursor(false);
     return text;
 }

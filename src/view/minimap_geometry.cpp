@@ -15,7 +15,7 @@ MinimapPixel minimapPixelOf(int x, int y)
 
 MinimapViewRect minimapViewRect(const ProgramState &state)
 {
-    return {state.viewLeft / 2, state.viewTop / 2, state.viewCols / 2, state.viewRows / 2};
+    return {state.view.viewLeft / 2, state.view.viewTop / 2, state.view.viewCols / 2, state.view.viewRows / 2};
 }
 
 namespace {
@@ -30,8 +30,8 @@ std::int16_t originFor(double position, int visible)
 
 void moveViewToMinimapPoint(ProgramState &state, double x, double y)
 {
-    state.viewLeft = originFor(x, state.viewCols);
-    state.viewTop = originFor(y, state.viewRows);
+    state.view.viewLeft = originFor(x, state.view.viewCols);
+    state.view.viewTop = originFor(y, state.view.viewRows);
     clampView(state);
 }
 

@@ -19,14 +19,14 @@ std::int16_t clampOrigin(long origin, int visible)
 
 void clampView(ProgramState &state)
 {
-    state.viewLeft = clampOrigin(state.viewLeft, state.viewCols);
-    state.viewTop = clampOrigin(state.viewTop, state.viewRows);
+    state.view.viewLeft = clampOrigin(state.view.viewLeft, state.view.viewCols);
+    state.view.viewTop = clampOrigin(state.view.viewTop, state.view.viewRows);
 }
 
 void centreView(ProgramState &state, Platform &platform, int x, int y)
 {
-    state.viewLeft = clampOrigin(static_cast<long>(x) - state.viewCols / 2, state.viewCols);
-    state.viewTop = clampOrigin(static_cast<long>(y) - state.viewRows / 2, state.viewRows);
+    state.view.viewLeft = clampOrigin(static_cast<long>(x) - state.view.viewCols / 2, state.view.viewCols);
+    state.view.viewTop = clampOrigin(static_cast<long>(y) - state.view.viewRows / 2, state.view.viewRows);
     platform.redrawMap();
 }
 

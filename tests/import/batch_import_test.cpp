@@ -43,7 +43,7 @@ TEST_F(BatchImport, HtmFilesFirstThenHtmlEachInNameOrder)
     ASSERT_TRUE(reportFilesInFolder(folder(), files, error));
     EXPECT_EQ(files, (std::vector<std::string>{folder() + "b.htm", folder() + "c.htm", folder() + "a.html"}));
 
-    state.viewLeft = 12;
+    state.view.viewLeft = 12;
     const BatchOutcome outcome = importFolder();
     EXPECT_EQ(outcome.imported, 3);
     const std::string wait = "Please wait, batch importing HTML turns...";
@@ -53,9 +53,9 @@ TEST_F(BatchImport, HtmFilesFirstThenHtmlEachInNameOrder)
     // Later reports overwrite the terrain; only the first note finds the sector empty.
     EXPECT_EQ(at(51, 50).terrain, 6);
     EXPECT_EQ(at(50, 50).note, "B.");
-    EXPECT_EQ(state.viewLeft, 12);
+    EXPECT_EQ(state.view.viewLeft, 12);
     EXPECT_EQ(platform.redraws, 1);
-    EXPECT_EQ(state.fileBusy, 0);
+    EXPECT_EQ(state.document.fileBusy, 0);
     EXPECT_EQ(state.options.lastImp, folder());
     EXPECT_TRUE(platform.messages.empty());
 }
@@ -66,7 +66,7 @@ TEST_F(BatchImport, TheFirstGameNumberHoldsAndOtherGamesAreSkippedSilently)
     writeFile(dir.file("2.htm"), paintingReport("Water", "Two.", "07"));
     writeFile(dir.file("3.htm"), paintingReport("Hills", "Three.", "05"));
     importFolder();
-    EXPECT_EQ(state.gameNumber, 5);
+    EXPECT_EQ(state.document.gameNumber, 5);
     EXPECT_EQ(at(51, 50).terrain, 12);
     EXPECT_TRUE(platform.messages.empty());
 }
@@ -104,12 +104,12 @@ TEST_F(BatchImport, EmptyFolderAndCancelledDialog)
     ASSERT_EQ(platform.dialogs.size(), 1u);
     EXPECT_EQ(platform.dialogs[0].title, "Select folder with HTML turns...");
     EXPECT_EQ(platform.dialogs[0].filter, "HTML File (*.html)|*.htm*");
-    EXPECT_EQ(state.mapChanged, 0);
+    EXPECT_EQ(state.document.mapChanged, 0);
     EXPECT_EQ(platform.redraws, 0);
 
     platform.files = {dir.file("anything.htm")};
     batchImportHtml(*world, state, platform);
-    EXPECT_EQ(state.mapChanged, 1);
+    EXPECT_EQ(state.document.mapChanged, 1);
     EXPECT_EQ(state.options.lastImp, folder());
     EXPECT_EQ(platform.redraws, 1);
     EXPECT_TRUE(platform.messages.empty());

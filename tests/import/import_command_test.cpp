@@ -28,7 +28,7 @@ TEST_F(ImportCommand, CancelledDialogChangesNothing)
     EXPECT_EQ(platform.dialogs[0].filter, "HTML File (*.html)|*.htm*");
     EXPECT_EQ(platform.dialogs[0].startFolder, "/turns/");
     EXPECT_TRUE(platform.statuses.empty());
-    EXPECT_EQ(state.mapChanged, 0);
+    EXPECT_EQ(state.document.mapChanged, 0);
 }
 
 TEST_F(ImportCommand, ImportMovesTheViewOntoTheMapAndRemembersTheFolder)
@@ -38,27 +38,27 @@ TEST_F(ImportCommand, ImportMovesTheViewOntoTheMapAndRemembersTheFolder)
     Import_HTML(*world, state, platform);
     EXPECT_EQ(platform.statuses, (std::vector<std::string>{"Please wait, importing HTML turn...", ""}));
     EXPECT_FALSE(platform.waitCursor);
-    EXPECT_EQ(state.fileBusy, 0);
-    EXPECT_EQ(state.mapChanged, 1);
+    EXPECT_EQ(state.document.fileBusy, 0);
+    EXPECT_EQ(state.document.mapChanged, 1);
     EXPECT_EQ(state.options.lastImp, std::string(WAYSCRIBE_TEST_DATA) + "/reports/");
     EXPECT_NE(readFile(state.optionsFilePath).find("LastImp = " + state.options.lastImp + "\r\n"),
               std::string::npos);
-    EXPECT_EQ(state.viewLeft, 45 - 20 + 5);
-    EXPECT_EQ(state.viewTop, 67 - 15 + 5);
+    EXPECT_EQ(state.view.viewLeft, 45 - 20 + 5);
+    EXPECT_EQ(state.view.viewTop, 67 - 15 + 5);
     EXPECT_EQ(platform.redraws, 1);
 }
 
 TEST_F(ImportCommand, ReportWithoutMapLeavesTheView)
 {
-    state.viewLeft = 3;
+    state.view.viewLeft = 3;
     importHtmlFile(*world, state, platform, reportPath("dungeon_level.htm"));
-    EXPECT_EQ(state.viewLeft, 3);
+    EXPECT_EQ(state.view.viewLeft, 3);
     EXPECT_EQ(platform.redraws, 0);
 }
 
 TEST_F(ImportCommand, ReportOfAnotherGameKeepsOnlyWhatCameBefore)
 {
-    state.gameNumber = 7;
+    state.document.gameNumber = 7;
     importHtmlFile(*world, state, platform, reportPath("other_game.htm"));
     ASSERT_EQ(platform.messages.size(), 1u);
     EXPECT_EQ(platform.messages[0].text,
@@ -67,15 +67,15 @@ TEST_F(ImportCommand, ReportOfAnotherGameKeepsOnlyWhatCameBefore)
     EXPECT_EQ(at(101, 100).terrain, 6);
     EXPECT_EQ(at(120, 120).terrain, 1);
     EXPECT_EQ(world->settlement(99).inUse, 0);
-    EXPECT_EQ(state.gameNumber, 7);
+    EXPECT_EQ(state.document.gameNumber, 7);
     EXPECT_EQ(platform.redraws, 0);
 
     read(reportPath("other_game.htm"), true); // the batch import says nothing
     EXPECT_EQ(platform.messages.size(), 1u);
 
-    state.gameNumber = 0; // a map without a game takes the report's
+    state.document.gameNumber = 0; // a map without a game takes the report's
     readData("other_game.htm");
-    EXPECT_EQ(state.gameNumber, 9);
+    EXPECT_EQ(state.document.gameNumber, 9);
     EXPECT_EQ(at(120, 120).terrain, 16);
     EXPECT_EQ(at(120, 120).settlementName, "Otterby ");
     EXPECT_EQ(item(99, 3, 1, ItemField::Name), "Bread");
@@ -90,10 +90,10 @@ TEST_F(ImportCommand, ReportCutOffKeepsWhatWasReadAndSaysWhere)
     EXPECT_EQ(at(48, 67).terrain, 12);
     EXPECT_EQ(at(46, 68).terrain, 17);
     EXPECT_EQ(at(47, 68).terrain, 1);
-    EXPECT_EQ(state.fileBusy, 0);
+    EXPECT_EQ(state.document.fileBusy, 0);
     EXPECT_EQ(platform.statuses.back(), "");
     EXPECT_FALSE(platform.waitCursor);
-    EXPECT_EQ(state.viewLeft, 0); // not moved, but redrawn
+    EXPECT_EQ(state.view.viewLeft, 0); // not moved, but redrawn
     EXPECT_EQ(platform.redraws, 1);
 
     readData("cut_shops.html");
@@ -112,7 +112,7 @@ TEST_F(ImportCommand, NumbersTooLargeForTheirFieldStopTheReport)
     EXPECT_EQ(platform.messages[0].detail,
               dir.file("turn.htm") +
                   ", line 11: the map start column \"99999\" does not fit its field (-32768 to 32767)");
-    EXPECT_EQ(state.gameNumber, 7); // read before the faulty line
+    EXPECT_EQ(state.document.gameNumber, 7); // read before the faulty line
 
     text = readFile(reportPath("banner_town.htm"));
     text.replace(text.find("G07"), 3, "G-1");
@@ -135,7 +135,7 @@ TEST_F(ImportCommand, UnreadableAndMeaninglessReportsChangeNothing)
     EXPECT_EQ(readText(junk).result, ReportResult::Imported);
     EXPECT_EQ(platform.messages.size(), 1u);
     EXPECT_EQ(knownSectors(*world), 0);
-    EXPECT_EQ(state.gameNumber, 0);
+    EXPECT_EQ(state.document.gameNumber, 0);
 }
 
 TEST_F(ImportCommand, LinesOfAHundredThousandCharacters)
@@ -161,7 +161,7 @@ TEST_F(ImportCommand, EachOptionGatesItsPart)
     for (int mask = 0; mask < 16; ++mask) {
         SCOPED_TRACE(mask);
         world = std::make_unique<World>();
-        state.gameNumber = 0;
+        state.document.gameNumber = 0;
         const bool map = mask & 1, shops = mask & 2, hides = mask & 4, dungeons = mask & 8;
         setImportOptions(map, shops, hides, dungeons);
         readData("banner_town.htm");
@@ -177,7 +177,7 @@ TEST_F(ImportCommand, EachOptionGatesItsPart)
         EXPECT_EQ(at(48, 64).note.empty(), !(shops && dungeons));
         EXPECT_EQ(world->dungeon(1).name, shops && dungeons ? "Black Pit" : "");
         EXPECT_EQ(world->dungeon(200).name, "Dark Hole");
-        EXPECT_EQ(state.gameNumber, 7);
+        EXPECT_EQ(state.document.gameNumber, 7);
     }
 }
 

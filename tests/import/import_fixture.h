@@ -23,8 +23,8 @@ class ImportTest : public ::testing::Test {
 protected:
     ImportTest()
     {
-        state.viewCols = 40;
-        state.viewRows = 30;
+        state.view.viewCols = 40;
+        state.view.viewRows = 30;
     }
 
     ReportOutcome read(const std::string &path, bool batch = false)

@@ -36,7 +36,7 @@ TEST_F(WildernessMap, BannerLayoutRowsStartAtTheMapInfoRow)
                            {48, 69, 1},
                            {45, 66, 1},
                            {45, 70, 1}});
-    EXPECT_EQ(state.gameNumber, 7);
+    EXPECT_EQ(state.document.gameNumber, 7);
 }
 
 TEST_F(WildernessMap, PlainLayoutReadsCommaSeparatedCells)
@@ -84,8 +84,8 @@ TEST_F(WildernessMap, CellsPastTheWorldsEdgeAreSkippedAndTheViewStaysInside)
     writeFile(dir.file("edge.htm"), reportText(shape));
     EXPECT_EQ(importHtmlFile(*world, state, platform, dir.file("edge.htm")), ReportResult::Imported);
     expectTerrain(*world, {{198, 199, 6}, {200, 199, 6}, {198, 200, 6}, {200, 200, 6}, {197, 199, 1}});
-    EXPECT_EQ(state.viewLeft, 160);
-    EXPECT_EQ(state.viewTop, 170);
+    EXPECT_EQ(state.view.viewLeft, 160);
+    EXPECT_EQ(state.view.viewTop, 170);
 
     shape.banner = false;
     shape.startX = 1;
@@ -93,8 +93,8 @@ TEST_F(WildernessMap, CellsPastTheWorldsEdgeAreSkippedAndTheViewStaysInside)
     writeFile(dir.file("corner.htm"), reportText(shape));
     importHtmlFile(*world, state, platform, dir.file("corner.htm"));
     expectTerrain(*world, {{1, 1, 6}, {4, 3, 6}, {5, 1, 1}, {1, 4, 1}});
-    EXPECT_EQ(state.viewLeft, 1);
-    EXPECT_EQ(state.viewTop, 1);
+    EXPECT_EQ(state.view.viewLeft, 1);
+    EXPECT_EQ(state.view.viewTop, 1);
 }
 
 TEST_F(WildernessMap, APartyOnWaterLeavesThePartyPositionAtZero)

@@ -50,11 +50,11 @@ TEST(World, NewMapClearsEveryTableAndTheSelections)
     w->dungeon(200).levels = 4;
     w->dungeon(200).level[10].roomData = "r";
     w->questorItemName(1000) = "Q";
-    s.gameNumber = 4;
-    s.mapFileName = "/x.om1";
-    s.mapChanged = 1;
-    s.selX = s.selY = s.selSettlement = 3;
-    s.selShop = s.selNumber = s.selDungeon = 2;
+    s.document.gameNumber = 4;
+    s.document.mapFileName = "/x.om1";
+    s.document.mapChanged = 1;
+    s.selection.selX = s.selection.selY = s.selection.selSettlement = 3;
+    s.selection.selShop = s.selection.selNumber = s.selection.selDungeon = 2;
     NewMap(*w, s, p);
     const Sector &sec = w->sector(7, 9);
     EXPECT_EQ(sec.terrain, kUnknown);
@@ -67,10 +67,10 @@ TEST(World, NewMapClearsEveryTableAndTheSelections)
     EXPECT_EQ(w->dungeon(200).levels, 0);
     EXPECT_EQ(w->dungeon(200).level[10].roomData, "");
     EXPECT_EQ(w->questorItemName(1000), "");
-    EXPECT_EQ(s.gameNumber, 0);
-    EXPECT_EQ(s.mapFileName, "");
-    EXPECT_EQ(s.mapChanged, 1) << "New leaves the dirty flag to its caller";
-    EXPECT_EQ(s.selX + s.selY + s.selSettlement + s.selShop + s.selNumber + s.selDungeon, 0);
+    EXPECT_EQ(s.document.gameNumber, 0);
+    EXPECT_EQ(s.document.mapFileName, "");
+    EXPECT_EQ(s.document.mapChanged, 1) << "New leaves the dirty flag to its caller";
+    EXPECT_EQ(s.selection.selX + s.selection.selY + s.selection.selSettlement + s.selection.selShop + s.selection.selNumber + s.selection.selDungeon, 0);
     EXPECT_EQ(p.statuses, (std::vector<std::string>{"Please wait, clearing map...", ""}));
     EXPECT_EQ(p.redraws, 1);
 }

@@ -33,7 +33,7 @@ TEST(LoadMap, RemembersTheMapInTheOptionsAndLocksWhenAsked)
 {
     Fixture f;
     const std::string path = f.saved("w.om1");
-    f.state.mapChanged = 1;
+    f.state.document.mapChanged = 1;
     f.state.options.loadLock = true;
     f.platform.files.push_back(path);
     ASSERT_TRUE(Load_Map(*f.world, f.state, f.platform, ""));
@@ -41,12 +41,12 @@ TEST(LoadMap, RemembersTheMapInTheOptionsAndLocksWhenAsked)
     EXPECT_EQ(f.platform.dialogs[0].title, "Load Map File...");
     EXPECT_EQ(f.platform.dialogs[0].filter, "Orven Mapper Files (*.om1)|*.om1");
     EXPECT_EQ(f.world->sector(3, 3).terrain, 9);
-    EXPECT_EQ(f.state.gameNumber, 5);
-    EXPECT_EQ(f.state.mapChanged, 0);
-    EXPECT_EQ(f.state.fileBusy, 0);
-    EXPECT_EQ(f.state.mapFileName, path);
+    EXPECT_EQ(f.state.document.gameNumber, 5);
+    EXPECT_EQ(f.state.document.mapChanged, 0);
+    EXPECT_EQ(f.state.document.fileBusy, 0);
+    EXPECT_EQ(f.state.document.mapFileName, path);
     EXPECT_EQ(f.state.options.lastFile, f.dir.path().string() + "/");
-    EXPECT_EQ(f.state.mapLocked, 1);
+    EXPECT_EQ(f.state.document.mapLocked, 1);
     EXPECT_EQ(f.platform.lockChanges, 1);
     EXPECT_EQ(f.platform.redraws, 1);
     EXPECT_EQ(f.platform.statuses.front(), "Please wait, loading map...");
@@ -57,31 +57,31 @@ TEST(LoadMap, RemembersTheMapInTheOptionsAndLocksWhenAsked)
 TEST(LoadMap, CancelChangesNothingAndABrokenFileIsReported)
 {
     Fixture f;
-    f.state.mapChanged = 1;
+    f.state.document.mapChanged = 1;
     EXPECT_FALSE(Load_Map(*f.world, f.state, f.platform, ""));
-    EXPECT_EQ(f.state.mapChanged, 1);
+    EXPECT_EQ(f.state.document.mapChanged, 1);
     EXPECT_TRUE(f.platform.statuses.empty());
 
     writeFile(f.dir.file("bad.om1"), "\"v017\"\r\n7\r\n300\r\n");
-    f.state.mapChanged = 0;
+    f.state.document.mapChanged = 0;
     EXPECT_FALSE(Load_Map(*f.world, f.state, f.platform, f.dir.file("bad.om1")));
     ASSERT_EQ(f.platform.messages.size(), 1u);
     EXPECT_NE(f.platform.messages[0].detail.find("bad.om1, line 3"), std::string::npos);
-    EXPECT_EQ(f.state.gameNumber, 7) << "what was read stays";
-    EXPECT_EQ(f.state.fileBusy, 0);
+    EXPECT_EQ(f.state.document.gameNumber, 7) << "what was read stays";
+    EXPECT_EQ(f.state.document.fileBusy, 0);
     EXPECT_FALSE(f.platform.waitCursor);
-    EXPECT_EQ(f.state.mapChanged, 1) << "a half-loaded map is not discarded silently";
+    EXPECT_EQ(f.state.document.mapChanged, 1) << "a half-loaded map is not discarded silently";
 }
 
 TEST(SaveMap, AsksForANameOnlyWhenItHasToAndBeforeOverwriting)
 {
     Fixture f;
     f.world->sector(1, 1).terrain = 4;
-    f.state.mapChanged = 1;
+    f.state.document.mapChanged = 1;
     // Save As, cancelled.
     EXPECT_FALSE(Save_Map(*f.world, f.state, f.platform, true));
     EXPECT_EQ(f.platform.dialogs.back().title, "Save Map File As...");
-    EXPECT_EQ(f.state.mapChanged, 1);
+    EXPECT_EQ(f.state.document.mapChanged, 1);
     // Existing file, overwrite declined.
     const std::string existing = f.saved("old.om1");
     f.platform.files.push_back(existing);
@@ -89,13 +89,13 @@ TEST(SaveMap, AsksForANameOnlyWhenItHasToAndBeforeOverwriting)
     EXPECT_FALSE(Save_Map(*f.world, f.state, f.platform, true));
     EXPECT_EQ(f.platform.messages.back().text, "Are you sure you wish to over-write this file?");
     EXPECT_EQ(f.platform.messages.back().title, "Sure?");
-    EXPECT_EQ(f.state.mapChanged, 1);
+    EXPECT_EQ(f.state.document.mapChanged, 1);
     // Accepted.
     f.platform.files.push_back(existing);
     f.platform.answers.push_back(Answer::Yes);
     EXPECT_TRUE(Save_Map(*f.world, f.state, f.platform, true));
-    EXPECT_EQ(f.state.mapChanged, 0);
-    EXPECT_EQ(f.state.mapFileName, existing);
+    EXPECT_EQ(f.state.document.mapChanged, 0);
+    EXPECT_EQ(f.state.document.mapFileName, existing);
     EXPECT_EQ(f.state.options.wmol, existing);
     // Plain save writes to the map's file without any dialog.
     const std::size_t dialogs = f.platform.dialogs.size();
@@ -111,11 +111,11 @@ TEST(SaveMap, AsksForANameOnlyWhenItHasToAndBeforeOverwriting)
 TEST(SaveMap, AFailedSaveKeepsTheMapMarkedAsChanged)
 {
     Fixture f;
-    f.state.mapFileName = f.dir.file("gone/world.om1");
-    f.state.mapChanged = 1;
+    f.state.document.mapFileName = f.dir.file("gone/world.om1");
+    f.state.document.mapChanged = 1;
     EXPECT_FALSE(Save_Map(*f.world, f.state, f.platform, false));
-    EXPECT_EQ(f.state.mapChanged, 1);
-    EXPECT_EQ(f.state.fileBusy, 0);
+    EXPECT_EQ(f.state.document.mapChanged, 1);
+    EXPECT_EQ(f.state.document.fileBusy, 0);
     ASSERT_EQ(f.platform.messages.size(), 1u);
     EXPECT_NE(f.platform.messages[0].detail.find("gone/world.om1"), std::string::npos);
 }
@@ -125,7 +125,7 @@ TEST(MergeCommand, IgnoresOtherFilesAndReportsBrokenOnes)
     Fixture f;
     f.platform.files.push_back(f.dir.file("notes.txt"));
     mergeMapCommand(*f.world, f.state, f.platform);
-    EXPECT_EQ(f.state.mapChanged, 0) << "a file without .om1 is ignored";
+    EXPECT_EQ(f.state.document.mapChanged, 0) << "a file without .om1 is ignored";
     EXPECT_EQ(f.platform.redraws, 0);
 
     writeFile(f.dir.file("broken.om1"), "\"v017\"\r\n");
@@ -134,7 +134,7 @@ TEST(MergeCommand, IgnoresOtherFilesAndReportsBrokenOnes)
     ASSERT_EQ(f.platform.messages.size(), 1u);
     EXPECT_EQ(f.platform.messages[0].text, "There was an unknown error merging the map.");
     EXPECT_EQ(f.platform.dialogs.back().title, "Merge Map File...");
-    EXPECT_EQ(f.state.mapChanged, 1);
-    EXPECT_EQ(f.state.fileBusy, 0);
+    EXPECT_EQ(f.state.document.mapChanged, 1);
+    EXPECT_EQ(f.state.document.fileBusy, 0);
     EXPECT_EQ(f.platform.redraws, 1);
 }

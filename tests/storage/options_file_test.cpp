@@ -12,7 +12,7 @@ ProgramState readOptions(const TempDir &dir, const std::string &text)
 {
     writeFile(dir.file("wayscribe.ini"), text);
     ProgramState s;
-    s.mapLocked = 1;
+    s.document.mapLocked = 1;
     readOptionsFile(dir.file("wayscribe.ini"), s);
     return s;
 }
@@ -22,10 +22,10 @@ TEST(OptionsFile, MissingFileOrLoneKeyGivesDefaults)
 {
     TempDir dir;
     ProgramState s;
-    s.mapLocked = 1;
+    s.document.mapLocked = 1;
     s.options.extra = false;
     readOptionsFile(dir.file("none.ini"), s);
-    EXPECT_EQ(s.mapLocked, 0);
+    EXPECT_EQ(s.document.mapLocked, 0);
     EXPECT_TRUE(s.options.extra);
     EXPECT_EQ(s.options.graphicsSetName, "kjc_set1");
 
@@ -77,8 +77,8 @@ TEST(OptionsFile, WritesTheFileLineByLineAndReadsItBack)
     s.options.graphicsSetName = "kjc_set2";
     s.options.wmol = "/home/p/world.om1";
     s.options.xLeft = 99; // the file holds the current origin, not this
-    s.viewLeft = 12;
-    s.viewTop = -3;
+    s.view.viewLeft = 12;
+    s.view.viewTop = -3;
     s.options.lastImp = "/home/p/turns/";
     ScriptedPlatform platform;
     ASSERT_TRUE(writeOptions(s, platform));

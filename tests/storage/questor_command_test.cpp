@@ -30,7 +30,7 @@ protected:
     {
         world->sector(150, 150).terrain = 11;
         world->sector(150, 150).note = "before";
-        state.mapFileName = "/maps/old.om1";
+        state.document.mapFileName = "/maps/old.om1";
     }
 
     void writeFiles(const std::string &mp1, const std::string &mp2)
@@ -50,20 +50,20 @@ protected:
     void rerun()
     {
         platform = {};
-        state.mapChanged = 0;
+        state.document.mapChanged = 0;
         run();
     }
 
     // After every import, finished or not.
     void expectJobEnded()
     {
-        EXPECT_EQ(state.fileBusy, 0);
+        EXPECT_EQ(state.document.fileBusy, 0);
         EXPECT_FALSE(platform.waitCursor);
         ASSERT_FALSE(platform.statuses.empty());
         EXPECT_EQ(platform.statuses.front(), kQuestorStatus);
         EXPECT_EQ(platform.statuses.back(), "");
         EXPECT_EQ(platform.redraws, 1);
-        EXPECT_EQ(state.mapFileName, "");
+        EXPECT_EQ(state.document.mapFileName, "");
     }
 
     // The one message of a failed import: the detail names file and place.
@@ -103,7 +103,7 @@ protected:
 TEST_F(QuestorCommandTest, ImportsAfterTheQuestionAndLeavesAMapWithoutAFileName)
 {
     writeFiles(oneSettlement().bytes(), namesOfOneSettlement().text());
-    state.mapChanged = 1;
+    state.document.mapChanged = 1;
     platform.answers.push_back(Answer::Yes);
     run();
 
@@ -117,7 +117,7 @@ TEST_F(QuestorCommandTest, ImportsAfterTheQuestionAndLeavesAMapWithoutAFileName)
     EXPECT_EQ(platform.dialogs[0].filter, "QuestOR map files (*.mp1)|*.mp1");
     expectJobEnded();
     ASSERT_EQ(platform.statuses.front(), "Please wait, importing Questor map... (May take some time...)");
-    EXPECT_EQ(state.mapChanged, 0);
+    EXPECT_EQ(state.document.mapChanged, 0);
     EXPECT_EQ(world->sector(150, 150).terrain, 2);
     EXPECT_EQ(world->sector(5, 6).settlementName, "Ford");
     EXPECT_EQ(world->sector(5, 6).note, "gate");
@@ -127,19 +127,19 @@ TEST_F(QuestorCommandTest, ImportsAfterTheQuestionAndLeavesAMapWithoutAFileName)
 
 TEST_F(QuestorCommandTest, DoesNothingWhileBusyOrWhenTheQuestionIsDeclined)
 {
-    state.fileBusy = 1;
+    state.document.fileBusy = 1;
     run();
     EXPECT_TRUE(platform.dialogs.empty());
     EXPECT_TRUE(platform.messages.empty());
 
-    state.fileBusy = 0;
-    state.mapChanged = 1;
+    state.document.fileBusy = 0;
+    state.document.mapChanged = 1;
     platform.answers.push_back(Answer::No);
     importQuestorCommand(*world, state, platform);
     EXPECT_EQ(platform.messages.size(), 1u);
     EXPECT_TRUE(platform.dialogs.empty());
-    EXPECT_EQ(state.mapChanged, 1);
-    EXPECT_EQ(state.mapFileName, "/maps/old.om1");
+    EXPECT_EQ(state.document.mapChanged, 1);
+    EXPECT_EQ(state.document.mapFileName, "/maps/old.om1");
 }
 
 TEST_F(QuestorCommandTest, CancellingTheDialogStillForgetsTheMapFileName)
@@ -147,7 +147,7 @@ TEST_F(QuestorCommandTest, CancellingTheDialogStillForgetsTheMapFileName)
     platform.files.push_back("");
     importQuestorCommand(*world, state, platform);
     EXPECT_EQ(platform.dialogs.size(), 1u);
-    EXPECT_EQ(state.mapFileName, "");
+    EXPECT_EQ(state.document.mapFileName, "");
     EXPECT_TRUE(platform.statuses.empty());
     EXPECT_EQ(platform.redraws, 0);
     EXPECT_EQ(world->sector(150, 150).terrain, 11);
@@ -160,7 +160,7 @@ TEST_F(QuestorCommandTest, AMapFileThatCannotBeReadLeavesTheMapAsItWas)
     expectFailure(noFile, "");
     EXPECT_TRUE(contains(platform.messages[0].detail, "cannot be opened"));
     EXPECT_EQ(platform.messages[0].text, "The QuestOR map could not be imported. The map is as it was.");
-    EXPECT_EQ(state.mapChanged, 0);
+    EXPECT_EQ(state.document.mapChanged, 0);
     EXPECT_EQ(world->sector(150, 150).terrain, 11);
 }
 
@@ -211,7 +211,7 @@ TEST_F(QuestorCommandTest, BrokenMapFilesStopWhereTheyBreakAndKeepWhatWasRead)
         writeFiles(c.bytes, namesOfOneSettlement().text());
         rerun();
         expectFailure(mapPath, c.place);
-        EXPECT_EQ(state.mapChanged, c.changed ? 1 : 0);
+        EXPECT_EQ(state.document.mapChanged, c.changed ? 1 : 0);
         EXPECT_EQ(world->sector(2, 100).terrain, c.changed ? 2 : 1);
         EXPECT_EQ(world->sector(2, 101).terrain, c.what == std::string("short terrain") ? 11
                                                  : c.changed                            ? 2
@@ -250,7 +250,7 @@ TEST_F(QuestorCommandTest, BrokenNamesFilesStopWithTheirLine)
         ASSERT_EQ(platform.messages.size(), 1u);
         EXPECT_TRUE(contains(platform.messages[0].detail, namesPath + ", line "))
             << platform.messages[0].detail;
-        EXPECT_EQ(state.mapChanged, 1);
+        EXPECT_EQ(state.document.mapChanged, 1);
         EXPECT_EQ(world->sector(5, 6).note, "gate");
     }
 
@@ -267,7 +267,7 @@ TEST_F(QuestorCommandTest, BadNotePlacesAndAMissingNamesFileAreTold)
     run();
     expectFailure(namesPath, "line 1");
     EXPECT_TRUE(contains(platform.messages[0].detail, "\"300\" is not a number from 0 to 255"));
-    EXPECT_EQ(state.mapChanged, 1);
+    EXPECT_EQ(state.document.mapChanged, 1);
 
     writeFiles(oneSettlement().bytes(), "201,5,\"x\"\r\n");
     rerun();

@@ -164,8 +164,8 @@ TEST_F(QuestorImportTest, TokensPlaceSettlementsShopsAndItemsThatTheNamesFileNam
     EXPECT_EQ(world->sector(10, 20).note, "Castle gate");
     EXPECT_EQ(world->sector(200, 1).note, "Corner\r\nsecond line");
     EXPECT_EQ(world->sector(0, 7).note, "row zero");
-    EXPECT_EQ(state.selX, 255);
-    EXPECT_EQ(state.selY, 7);
+    EXPECT_EQ(state.selection.selX, 255);
+    EXPECT_EQ(state.selection.selY, 7);
     EXPECT_EQ(world->questorItemName(310), "Not a special name");
     EXPECT_EQ(world->questorItemName(1000), "Entry 1000");
     EXPECT_TRUE(platform.messages.empty());

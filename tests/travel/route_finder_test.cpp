@@ -80,7 +80,7 @@ TEST_F(RouteFinder, FindsTheCheapestAndTheShortestRoute)
     sell(1, 1, 1, "Passage to Beta (2)", "7", "5");
     sell(1, 1, 2, "Passage to Gamma (3)", "8", "50");
     sell(2, 2, 3, "Ferry (3)", "9", "10");
-    state.fileBusy = 0;
+    state.document.fileBusy = 0;
     EXPECT_EQ(find("Alpha (1)", "Gamma (3)"),
               kWait +
                   route("Cheapest Route",
@@ -88,7 +88,7 @@ TEST_F(RouteFinder, FindsTheCheapestAndTheShortestRoute)
                         "15") +
                   route("Shortest Route", "B 99 1 8 @ 50gp to get to Gamma (3)\r\n", "50") + "Finished.\r\n");
     EXPECT_TRUE(platform.messages.empty());
-    EXPECT_EQ(state.fileBusy, 0);
+    EXPECT_EQ(state.document.fileBusy, 0);
     EXPECT_FALSE(platform.waitCursor);
 }
 
@@ -182,7 +182,7 @@ TEST_F(RouteFinder, UnreachableGoalNamesTheClosestSettlement)
     world->sector(33, 6).settlementName = "Echo";
     EXPECT_EQ(find("Alpha (1)", "Gamma (3)"), kWait + failure("Alpha (1)", "Gamma (3)", "Delta (4)", "5"));
     EXPECT_EQ(find("Gamma (3)", "Alpha (1)"), kWait + failure("Gamma (3)", "Alpha (1)", "Gamma (3)", "20"));
-    EXPECT_EQ(state.fileBusy, 0);
+    EXPECT_EQ(state.document.fileBusy, 0);
 }
 
 TEST_F(RouteFinder, StartEqualToGoalIsNeverReached)
@@ -249,7 +249,7 @@ TEST_F(RouteFinder, ASettlementSellsAtMostOneHundredTenJourneys)
 TEST_F(RouteFinder, MalformedBoxesAreRefusedAndEmptyOnesIgnored)
 {
     threeTowns();
-    state.fileBusy = 0;
+    state.document.fileBusy = 0;
     EXPECT_FALSE(find("", "Beta (2)"));
     EXPECT_FALSE(find("Alpha (1)", ""));
     EXPECT_TRUE(platform.messages.empty());
@@ -268,7 +268,7 @@ TEST_F(RouteFinder, MalformedBoxesAreRefusedAndEmptyOnesIgnored)
         EXPECT_EQ(platform.messages[0].text, c.message);
         EXPECT_EQ(platform.messages[0].title, "Wayscribe");
     }
-    EXPECT_EQ(state.fileBusy, 0);
+    EXPECT_EQ(state.document.fileBusy, 0);
 }
 
 TEST_F(RouteFinder, DearJourneysAddUpBeyondSixteenBits)

@@ -40,17 +40,17 @@ TEST(ViewNavigation, CentreClampsToTheWorld)
 {
     ProgramState s;
     test::ScriptedPlatform p;
-    s.viewCols = 40;
-    s.viewRows = 30;
+    s.view.viewCols = 40;
+    s.view.viewRows = 30;
     centreView(s, p, 3, 78);
-    EXPECT_EQ(s.viewLeft, 0);
-    EXPECT_EQ(s.viewTop, 63);
+    EXPECT_EQ(s.view.viewLeft, 0);
+    EXPECT_EQ(s.view.viewTop, 63);
     centreView(s, p, 500, 500);
-    EXPECT_EQ(s.viewLeft, 160);
-    EXPECT_EQ(s.viewTop, 170);
+    EXPECT_EQ(s.view.viewLeft, 160);
+    EXPECT_EQ(s.view.viewTop, 170);
     EXPECT_EQ(p.redraws, 2);
-    s.viewCols = 250; // a view wider than the world starts at its edge
-    s.viewLeft = 9;
+    s.view.viewCols = 250; // a view wider than the world starts at its edge
+    s.view.viewLeft = 9;
     clampView(s);
-    EXPECT_EQ(s.viewLeft, 0);
+    EXPECT_EQ(s.view.viewLeft, 0);
 }

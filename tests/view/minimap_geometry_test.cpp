@@ -8,32 +8,32 @@ using namespace wayscribe;
 TEST(MinimapGeometry, ClickCentresTheViewOnThePointWithinTheWorld)
 {
     ProgramState state;
-    state.viewCols = 40;
-    state.viewRows = 30;
+    state.view.viewCols = 40;
+    state.view.viewRows = 30;
 
     moveViewToMinimapPoint(state, 0, 0);
-    EXPECT_EQ(state.viewLeft, 0);
-    EXPECT_EQ(state.viewTop, 0);
+    EXPECT_EQ(state.view.viewLeft, 0);
+    EXPECT_EQ(state.view.viewTop, 0);
 
     moveViewToMinimapPoint(state, 99, 99);
-    EXPECT_EQ(state.viewLeft, 160);
-    EXPECT_EQ(state.viewTop, 170);
+    EXPECT_EQ(state.view.viewLeft, 160);
+    EXPECT_EQ(state.view.viewTop, 170);
 
     moveViewToMinimapPoint(state, 50, 40);
-    EXPECT_EQ(state.viewLeft, 99 - 20);
-    EXPECT_EQ(state.viewTop, 79 - 15);
+    EXPECT_EQ(state.view.viewLeft, 99 - 20);
+    EXPECT_EQ(state.view.viewTop, 79 - 15);
 
     // 2x - 1 is rounded, halves to even: 2 * 30.25 - 1 = 59.5 -> 60, 2 * 30.75 - 1 = 60.5 -> 60.
     moveViewToMinimapPoint(state, 30.25, 30.75);
-    EXPECT_EQ(state.viewLeft, 40);
-    EXPECT_EQ(state.viewTop, 45);
+    EXPECT_EQ(state.view.viewLeft, 40);
+    EXPECT_EQ(state.view.viewTop, 45);
 
     moveViewToMinimapPoint(state, 1e9, -1e9);
-    EXPECT_EQ(state.viewLeft, 160);
-    EXPECT_EQ(state.viewTop, 0);
+    EXPECT_EQ(state.view.viewLeft, 160);
+    EXPECT_EQ(state.view.viewTop, 0);
 
     // A view wider than the world is pulled back below 0 and then held at 0.
-    state.viewCols = 210;
+    state.view.viewCols = 210;
     moveViewToMinimapPoint(state, 99, 0);
-    EXPECT_EQ(state.viewLeft, 0);
+    EXPECT_EQ(state.view.viewLeft, 0);
 }

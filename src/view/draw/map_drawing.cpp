@@ -78,7 +78,7 @@ void drawSector(QPainter &painter, PixelCanvas &canvas, const World &world, cons
     if (sector.terrain == kRoad)
         drawRoadLines(canvas, world, x, y, at);
     drawNoteMarker(painter, sheet, noteMarkerFor(sector, state.options.extra), at);
-    const bool start = x == state.pathX[0] && y == state.pathY[0];
+    const bool start = x == state.movement.pathX[0] && y == state.movement.pathY[0];
     drawFootprint(painter, sheet, footprintPicture(sector.moveMark, start), at);
 }
 
@@ -122,16 +122,16 @@ void drawMap(QImage &picture, const World &world, const ProgramState &state, con
     PixelCanvas canvas(picture);
     QPainter painter(&picture);
     drawSectors(painter, canvas, world, state, sheet,
-                {state.viewLeft + 1, state.viewTop + 1, state.viewCols, state.viewRows});
+                {state.view.viewLeft + 1, state.view.viewTop + 1, state.view.viewCols, state.view.viewRows});
     const QRgb black = qRgb(0, 0, 0);
-    canvas.drawLine(QPoint(0, 0), QPoint(state.viewCols * kTile - 1, 0), black);
-    canvas.drawLine(QPoint(0, 0), QPoint(0, state.viewRows * kTile - 1), black);
+    canvas.drawLine(QPoint(0, 0), QPoint(state.view.viewCols * kTile - 1, 0), black);
+    canvas.drawLine(QPoint(0, 0), QPoint(0, state.view.viewRows * kTile - 1), black);
 }
 
 bool Refresh_Map(QImage &picture, Minimap &minimap, const World &world, const ProgramState &state,
                  const TileSheet &sheet)
 {
-    if (state.fullRedraw != 1)
+    if (state.view.fullRedraw != 1)
         return false;
     drawMap(picture, world, state, sheet);
     Refresh_MiniMap(minimap, world, state);

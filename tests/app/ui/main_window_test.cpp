@@ -80,11 +80,11 @@ private slots:
     {
         Harness h;
         h.start("LMOL = False\r\nXLEFT = 50\r\nYTOP = 60\r\n");
-        QCOMPARE(h.state.viewLeft, 0);
-        QCOMPARE(h.state.viewTop, 0);
-        QVERIFY(h.state.viewCols > 10 && h.state.viewRows > 10);
-        QCOMPARE(h.find<QScrollBar>("hscroll")->maximum(), 200 - h.state.viewCols);
-        QCOMPARE(h.state.mapFileName, std::string());
+        QCOMPARE(h.state.view.viewLeft, 0);
+        QCOMPARE(h.state.view.viewTop, 0);
+        QVERIFY(h.state.view.viewCols > 10 && h.state.view.viewRows > 10);
+        QCOMPARE(h.find<QScrollBar>("hscroll")->maximum(), 200 - h.state.view.viewCols);
+        QCOMPARE(h.state.document.mapFileName, std::string());
     }
 
     void startUpReopensTheLastMapWithItsViewClamped()
@@ -92,12 +92,12 @@ private slots:
         Harness h;
         const std::string map = h.saveMap("last.om1", 6);
         h.start("LMOL = True\r\nWMOL = " + map + "\r\nXLEFT = 190\r\nYTOP = 3\r\n");
-        QCOMPARE(h.state.mapFileName, map);
+        QCOMPARE(h.state.document.mapFileName, map);
         QCOMPARE(h.world->sector(1, 1).terrain, 6);
-        QCOMPARE(int(h.state.viewLeft), 200 - h.state.viewCols);
-        QCOMPARE(h.state.viewTop, 3);
-        QCOMPARE(h.find<QScrollBar>("hscroll")->value(), int(h.state.viewLeft));
-        QCOMPARE(h.state.mapChanged, 0);
+        QCOMPARE(int(h.state.view.viewLeft), 200 - h.state.view.viewCols);
+        QCOMPARE(h.state.view.viewTop, 3);
+        QCOMPARE(h.find<QScrollBar>("hscroll")->value(), int(h.state.view.viewLeft));
+        QCOMPARE(h.state.document.mapChanged, 0);
     }
 
     void aMapNamedOnTheCommandLineOpensInsteadOfTheLastMap()
@@ -106,9 +106,9 @@ private slots:
         const std::string last = h.saveMap("last.om1", 6);
         const std::string named = h.saveMap("named.om1", 9);
         h.start("LMOL = True\r\nWMOL = " + last + "\r\nXLEFT = 40\r\n", named);
-        QCOMPARE(h.state.mapFileName, named);
+        QCOMPARE(h.state.document.mapFileName, named);
         QCOMPARE(h.world->sector(1, 1).terrain, 9);
-        QCOMPARE(h.state.viewLeft, 0);
+        QCOMPARE(h.state.view.viewLeft, 0);
     }
 
     void newAsksOnlyAboutAChangedMap()
@@ -116,7 +116,7 @@ private slots:
         Harness h;
         h.start();
         h.world->sector(2, 2).terrain = 9;
-        h.state.mapChanged = 1;
+        h.state.document.mapChanged = 1;
         h.platform.answers = {Answer::No};
         h.find<QToolButton>("cmdNew")->click();
         QCOMPARE(h.world->sector(2, 2).terrain, 9);
@@ -125,7 +125,7 @@ private slots:
         h.platform.answers = {Answer::Yes};
         h.find<QToolButton>("cmdNew")->click();
         QCOMPARE(h.world->sector(2, 2).terrain, 1);
-        QCOMPARE(h.state.mapChanged, 0);
+        QCOMPARE(h.state.document.mapChanged, 0);
         const std::size_t asked = h.platform.messages.size();
         h.find<QAction>("mnuFileNew")->trigger();
         QCOMPARE(h.platform.messages.size(), asked);
@@ -135,11 +135,11 @@ private slots:
     {
         Harness h;
         h.start();
-        h.state.mapChanged = 1;
+        h.state.document.mapChanged = 1;
         h.platform.answers = {Answer::Cancel};
         h.window->close();
         QVERIFY(h.window->isVisible());
-        QCOMPARE(h.state.mapChanged, 1);
+        QCOMPARE(h.state.document.mapChanged, 1);
         QCOMPARE(h.platform.messages.back().title, std::string("Save before exit?"));
         QCOMPARE(h.platform.messages.back().buttons, MessageButtons::YesNoCancel);
 
@@ -152,11 +152,11 @@ private slots:
 
         Harness n;
         n.start();
-        n.state.mapChanged = 1;
+        n.state.document.mapChanged = 1;
         n.platform.answers = {Answer::No};
         n.window->close();
         QVERIFY(!n.window->isVisible());
-        QCOMPARE(n.state.mapChanged, 0);
+        QCOMPARE(n.state.document.mapChanged, 0);
     }
 
     void loadSaveAndSaveAsThroughTheDialogs()
@@ -167,12 +167,12 @@ private slots:
         h.platform.files = {map};
         h.find<QToolButton>("cmdLoad")->click();
         QCOMPARE(h.world->sector(1, 1).terrain, 11);
-        QCOMPARE(h.state.mapFileName, map);
+        QCOMPARE(h.state.document.mapFileName, map);
 
         h.world->sector(1, 1).terrain = 12;
-        h.state.mapChanged = 1;
+        h.state.document.mapChanged = 1;
         h.find<QToolButton>("cmdSave")->click(); // the map has a file: no dialog
-        QCOMPARE(h.state.mapChanged, 0);
+        QCOMPARE(h.state.document.mapChanged, 0);
         World back;
         std::uint8_t game;
         QVERIFY(readMapFile(map, back, game).ok);
@@ -188,16 +188,16 @@ private slots:
                  std::string("Are you sure you wish to over-write this file?"));
         h.platform.files = {h.dir.file("copy.om1")};
         h.find<QAction>("mnuFileSaveAs")->trigger();
-        QCOMPARE(h.state.mapFileName, h.dir.file("copy.om1"));
+        QCOMPARE(h.state.document.mapFileName, h.dir.file("copy.om1"));
         QVERIFY(std::filesystem::exists(h.dir.file("copy.om1")));
 
-        h.state.mapChanged = 1;
+        h.state.document.mapChanged = 1;
         h.platform.answers = {Answer::No};
         h.platform.files = {map};
         h.find<QAction>("mnuFileOpen")->trigger();
         QCOMPARE(h.platform.messages.back().icon, MessageIcon::Critical);
         // Declined: nothing is loaded.
-        QCOMPARE(h.state.mapFileName, h.dir.file("copy.om1"));
+        QCOMPARE(h.state.document.mapFileName, h.dir.file("copy.om1"));
     }
 
     void tileSetsAreOfferedWhenPresentAndSwitchTheTiles()
@@ -224,16 +224,16 @@ private slots:
         h.start();
         auto *minimap = h.find<MinimapWidget>("MiniMap");
         QTest::mouseClick(minimap, Qt::LeftButton, {}, QPoint(1, 1));
-        QCOMPARE(h.state.viewLeft, 0);
-        QCOMPARE(h.state.viewTop, 0);
+        QCOMPARE(h.state.view.viewLeft, 0);
+        QCOMPARE(h.state.view.viewTop, 0);
         QTest::mouseClick(minimap, Qt::LeftButton, {}, QPoint(199, 199));
-        QCOMPARE(int(h.state.viewLeft), 200 - h.state.viewCols);
-        QCOMPARE(int(h.state.viewTop), 200 - h.state.viewRows);
-        QCOMPARE(h.find<QScrollBar>("vscroll")->value(), int(h.state.viewTop));
-        h.state.fileBusy = 1;
+        QCOMPARE(int(h.state.view.viewLeft), 200 - h.state.view.viewCols);
+        QCOMPARE(int(h.state.view.viewTop), 200 - h.state.view.viewRows);
+        QCOMPARE(h.find<QScrollBar>("vscroll")->value(), int(h.state.view.viewTop));
+        h.state.document.fileBusy = 1;
         QTest::mouseClick(minimap, Qt::LeftButton, {}, QPoint(1, 1));
-        QCOMPARE(int(h.state.viewLeft), 200 - h.state.viewCols);
-        h.state.fileBusy = 0;
+        QCOMPARE(int(h.state.view.viewLeft), 200 - h.state.view.viewCols);
+        h.state.document.fileBusy = 0;
     }
 
     void scrollBarsMoveTheViewUnlessTheProgramSetsThem()
@@ -242,28 +242,28 @@ private slots:
         h.start();
         auto *hscroll = h.find<QScrollBar>("hscroll");
         hscroll->setValue(30);
-        QCOMPARE(h.state.viewLeft, 30);
-        h.state.scrollBusy = 1;
+        QCOMPARE(h.state.view.viewLeft, 30);
+        h.state.view.scrollBusy = 1;
         hscroll->setValue(40);
-        QCOMPARE(h.state.viewLeft, 30);
-        h.state.scrollBusy = 0;
+        QCOMPARE(h.state.view.viewLeft, 30);
+        h.state.view.scrollBusy = 0;
         // While a file is busy the origin moves but nothing is redrawn.
         h.world->sector(51, 1).terrain = 2;
         const QImage before = h.window->mapPicture()->backBuffer();
-        h.state.fileBusy = 1;
+        h.state.document.fileBusy = 1;
         hscroll->setValue(50);
-        QCOMPARE(h.state.viewLeft, 50);
+        QCOMPARE(h.state.view.viewLeft, 50);
         QCOMPARE(h.window->mapPicture()->backBuffer(), before);
-        h.state.fileBusy = 0;
+        h.state.document.fileBusy = 0;
         hscroll->setValue(49);
         hscroll->setValue(50);
         // The keyboard moves the view through the scroll bars.
         QTest::keyClick(h.window->mapPicture(), Qt::Key_Right);
-        QCOMPARE(h.state.viewLeft, 51);
+        QCOMPARE(h.state.view.viewLeft, 51);
         QTest::keyClick(h.window->mapPicture(), Qt::Key_PageDown);
-        QCOMPARE(int(h.state.viewTop), h.state.viewRows / 2);
+        QCOMPARE(int(h.state.view.viewTop), h.state.view.viewRows / 2);
         QTest::keyClick(h.window->mapPicture(), Qt::Key_Left);
-        h.state.viewTop = 0;
+        h.state.view.viewTop = 0;
         h.window->redrawMap();
         // The border lines run along the first row and column of the picture.
         QCOMPARE(h.tileAt(1, 1).copy(1, 1, 15, 15), h.sheetEntry(2).copy(1, 1, 15, 15));
@@ -295,10 +295,10 @@ private slots:
     {
         Harness h;
         h.start();
-        h.state.fileBusy = 1;
+        h.state.document.fileBusy = 1;
         h.find<QAction>("mnuInformationTravel")->trigger();
         QVERIFY(h.window->centralWidget()->isEnabled());
-        h.state.fileBusy = 0;
+        h.state.document.fileBusy = 0;
         h.find<QAction>("mnuInformationTravel")->trigger();
         QWidget *finder = h.window->findChild<QWidget *>("frmRouteFinder");
         QVERIFY(finder);

@@ -22,7 +22,7 @@ private slots:
         ProgramState state;
         ScriptedPlatform platform;
         state.optionsFilePath = dir.file("wayscribe.ini");
-        state.viewLeft = 33;
+        state.view.viewLeft = 33;
         auto *window = new frmOptions(state, platform, nullptr);
         window->show();
         auto *shops = window->findChild<QCheckBox *>("chkImportShop");
@@ -60,7 +60,7 @@ private slots:
     void gameNumberTakesEffectOnClose()
     {
         ProgramState state;
-        state.gameNumber = 12;
+        state.document.gameNumber = 12;
         frmGameNum window(state, nullptr);
         window.show();
         auto *box = window.findChild<QLineEdit *>("txtGameNum");
@@ -69,11 +69,11 @@ private slots:
         QTest::keyClicks(box, "300"); // only 0..255 can be typed
         QCOMPARE(box->text(), QString("30"));
         window.close();
-        QCOMPARE(state.gameNumber, 30);
+        QCOMPARE(state.document.gameNumber, 30);
         window.show();
         box->setText("");
         window.close();
-        QCOMPARE(state.gameNumber, 0);
+        QCOMPARE(state.document.gameNumber, 0);
     }
 
     void aboutCannotBeClosedWhileTheLastMapLoads()

@@ -81,7 +81,7 @@ private slots:
         QCOMPARE(routes(), "Please wait, calculating routes...\nCheapest Route:\n" + orders +
                                "Shortest Route:\n" + orders + "Finished.\n");
         QVERIFY(platform.messages.empty());
-        QCOMPARE(state.fileBusy, 0);
+        QCOMPARE(state.document.fileBusy, 0);
         QVERIFY(!platform.waitCursor);
     }
 

@@ -24,15 +24,15 @@ protected:
         writeMarkers(dir.file("graphics"));
         EXPECT_EQ(sheet.loadTileSet(dir.file("graphics"), "kjc_set1"), "");
         EXPECT_EQ(sheet.loadMarkers(dir.file("graphics")), "");
-        state.viewCols = 5;
-        state.viewRows = 4;
+        state.view.viewCols = 5;
+        state.view.viewRows = 4;
         picture.fill(kGrey);
     }
 
     void view(int left, int top)
     {
-        state.viewLeft = static_cast<std::int16_t>(left);
-        state.viewTop = static_cast<std::int16_t>(top);
+        state.view.viewLeft = static_cast<std::int16_t>(left);
+        state.view.viewTop = static_cast<std::int16_t>(top);
     }
     void draw() { drawMap(picture, *world, state, sheet); }
     void setTerrain(int x, int y, int code) { world->sector(x, y).terrain = static_cast<std::uint8_t>(code); }
@@ -99,7 +99,7 @@ TEST_F(MapDrawing, RefreshDrawsOnlyWhenAFullRedrawIsAsked)
     EXPECT_EQ(at(2, 2), kGrey);
     EXPECT_EQ(minimap.image.pixel(50, 50), kGrey);
 
-    state.fullRedraw = 1;
+    state.view.fullRedraw = 1;
     EXPECT_TRUE(Refresh_Map(picture, minimap, *world, state, sheet));
     EXPECT_EQ(at(2, 2), tileColour(kUnknown));
     EXPECT_EQ(minimap.image.pixel(50, 50), kBlack);
@@ -202,8 +202,8 @@ TEST_F(MapDrawing, NoteMarkersDependOnTheNoteTheTerrainAndTheExtraOption)
 
 TEST_F(MapDrawing, FootprintsTellTheStartSquareAndSquaresPassedTwice)
 {
-    state.pathX[0] = 2;
-    state.pathY[0] = 1;
+    state.movement.pathX[0] = 2;
+    state.movement.pathY[0] = 1;
     world->sector(1, 1).moveMark = 1; // passed once
     world->sector(2, 1).moveMark = 1; // the start
     world->sector(3, 1).moveMark = 2; // passed twice
@@ -223,7 +223,7 @@ TEST_F(MapDrawing, FootprintsTellTheStartSquareAndSquaresPassedTwice)
     EXPECT_EQ(at(2, 2, {6, 6}), footColour(3)) << "only (PathX[0], PathY[0]) is the start";
     EXPECT_EQ(at(5, 1, {6, 6}), footColour(1)) << "drawn over the note marker";
 
-    state.pathY[0] = 2;
+    state.movement.pathY[0] = 2;
     draw();
     EXPECT_EQ(at(2, 2, {6, 6}), footColour(4));
     EXPECT_EQ(at(2, 1, {6, 6}), footColour(1));

@@ -21,10 +21,10 @@ protected:
     void setTerrain(int x, int y, int code) { world->sector(x, y).terrain = static_cast<std::uint8_t>(code); }
     void view(int left, int top, int cols, int rows)
     {
-        state.viewLeft = static_cast<std::int16_t>(left);
-        state.viewTop = static_cast<std::int16_t>(top);
-        state.viewCols = static_cast<std::int16_t>(cols);
-        state.viewRows = static_cast<std::int16_t>(rows);
+        state.view.viewLeft = static_cast<std::int16_t>(left);
+        state.view.viewTop = static_cast<std::int16_t>(top);
+        state.view.viewCols = static_cast<std::int16_t>(cols);
+        state.view.viewRows = static_cast<std::int16_t>(rows);
     }
 
     std::unique_ptr<World> world = std::make_unique<World>();
