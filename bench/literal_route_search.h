@@ -46,7 +46,7 @@ inline void literalSearchRoute(const JourneyTable &table, RouteMode mode, RouteE
         pool->price[e] = table.cost[to][from];
     };
 
-    if (isSettlementNumber(ends.start)) {
+    if (isSettlementIndex(ends.start)) {
         const int start = static_cast<int>(ends.start);
         reached[start] = -1;
         int next = 0;

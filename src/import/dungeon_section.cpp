@@ -94,7 +94,7 @@ void storeLevel(ReportImport &im)
     // Only levels the table has room for, of a dungeon with a name.
     const std::string_view name = trimBlanks(r.dungeonName);
     if (name.empty() ||
-        !isLevelIndex(static_cast<int>(std::clamp<long>(r.dungeonLevel, 0, kLevelsPerDungeon + 1))))
+        !isLevelIndex(r.dungeonLevel))
         return;
     const int slot = dungeonSlot(im.world, name);
     if (slot == 0)

@@ -111,7 +111,7 @@ void readSettlementSection(ReportImport &im, std::string_view heading)
     if (!parseHeading(im.in, heading, s))
         return;
     const bool numbered =
-        isSettlementIndex(static_cast<int>(std::clamp<long>(s.number, 0, kMaxSettlements + 1)));
+        isSettlementIndex(s.number);
     if (numbered && placed && confirmPlacement(im, s, r.party))
         placeSettlement(im, s, r.party);
 

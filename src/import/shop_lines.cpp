@@ -89,8 +89,8 @@ void readShopField(ReportImport &im, long settlement, std::string_view field)
         return;
     // Rows only go where the tables have room: settlements 1..160, shops 0..110.
     const bool stored =
-        isSettlementIndex(static_cast<int>(std::clamp<long>(settlement, 0, kMaxSettlements + 1))) &&
-        isShopIndex(static_cast<int>(std::clamp<long>(r.shopNumber, -1, kMaxShop + 1)));
+        isSettlementIndex(settlement) &&
+        isShopIndex(r.shopNumber);
     if (r.itemCount == 0 && stored)
         clearRows(im.world, static_cast<int>(settlement), static_cast<int>(r.shopNumber));
     if (!contains(field, "Quest") && field.size() <= 26)

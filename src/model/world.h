@@ -22,27 +22,29 @@ inline constexpr int kLevelsPerDungeon = 10;    // levels 1..10
 inline constexpr int kQuestorFirstItem = 101;   // QuestOR item names 101..1000
 inline constexpr int kQuestorLastItem = 1000;
 
-inline bool isSectorIndex(int v)
+// Every index check of the program: numbers read from files and typed by the
+// person may be anything, so the checks take the widest integer there is.
+inline bool isSectorIndex(long long v)
 {
     return v >= 1 && v <= kMapSize;
 }
-inline bool isSettlementIndex(int n)
+inline bool isSettlementIndex(long long n)
 {
     return n >= 1 && n <= kMaxSettlements;
 }
-inline bool isShopIndex(int s)
+inline bool isShopIndex(long long s)
 {
     return s >= 0 && s <= kMaxShop;
 }
-inline bool isItemIndex(int i)
+inline bool isItemIndex(long long i)
 {
     return i >= 1 && i <= kItemsPerShop;
 }
-inline bool isDungeonIndex(int d)
+inline bool isDungeonIndex(long long d)
 {
     return d >= 1 && d <= kMaxDungeons;
 }
-inline bool isLevelIndex(int l)
+inline bool isLevelIndex(long long l)
 {
     return l >= 1 && l <= kLevelsPerDungeon;
 }

@@ -33,14 +33,14 @@ int journeyDestination(std::string_view name, std::size_t open, std::size_t clos
     const std::string_view between =
         close > open ? name.substr(open + 1, close - open - 1) : std::string_view{};
     const long long value = indexValue(between);
-    return isSettlementNumber(value) ? static_cast<int>(value) : 0;
+    return isSettlementIndex(value) ? static_cast<int>(value) : 0;
 }
 
 } // namespace
 
 long long SettlementPositions::distance(long long a, long long b) const
 {
-    auto at = [this](long long n) { return isSettlementNumber(n) ? xy[n] : std::array<int, 2>{}; };
+    auto at = [this](long long n) { return isSettlementIndex(n) ? xy[n] : std::array<int, 2>{}; };
     const auto pa = at(a), pb = at(b);
     const double dx = pa[0] - pb[0], dy = pa[1] - pb[1];
     return static_cast<long long>(std::floor(std::sqrt(dx * dx + dy * dy)));
@@ -56,7 +56,7 @@ SettlementPositions settlementPositions(const World &world)
 
 std::string_view settlementNameOf(const World &world, long long number)
 {
-    if (!isSettlementNumber(number))
+    if (!isSettlementIndex(number))
         return {};
     const Settlement &s = world.settlement(static_cast<int>(number));
     // A free settlement stands at (0, 0), a sector that never holds a name;

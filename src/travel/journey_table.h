@@ -14,12 +14,6 @@ class Platform;
 // left out of the search.
 inline constexpr int kJourneysPerSettlement = 110;
 
-// Numbers typed by the person or read from an item's name may be anything.
-inline bool isSettlementNumber(long long n)
-{
-    return n >= 1 && n <= kMaxSettlements;
-}
-
 // Where the settlements stand, for the rough distances of the route finder.
 // Numbers that are no settlement stand at (0, 0), like a free settlement.
 struct SettlementPositions {

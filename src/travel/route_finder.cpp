@@ -42,7 +42,7 @@ std::string routeText(const JourneyTable &table, RouteMode mode, RouteEnds ends,
     // walk back from the goal ends at the start.
     std::array<int, kMaxSettlements> back{};
     int count = 0;
-    for (long long at = ends.goal; at != ends.start && isSettlementNumber(at) && count < kMaxSettlements;
+    for (long long at = ends.goal; at != ends.start && isSettlementIndex(at) && count < kMaxSettlements;
          at = result.parent[at])
         back[count++] = static_cast<int>(at);
 

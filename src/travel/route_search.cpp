@@ -108,7 +108,7 @@ public:
     void run()
     {
         result_ = RouteSearchResult{};
-        if (isSettlementNumber(ends_.start)) {
+        if (isSettlementIndex(ends_.start)) {
             const int start = static_cast<int>(ends_.start);
             reached_[start] = true;
             for (int k = 1; k <= table_.count[start]; ++k)
