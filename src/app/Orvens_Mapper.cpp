@@ -3,7 +3,7 @@
 #include "app/frmAbout.h"
 #include "app/frmGameNum.h"
 #include "app/frmOptions.h"
-#include "app/qt_text.h"
+#include "shared/ui/qt_text.h"
 #include "import/batch_import.h"
 #include "import/html_import.h"
 #include "model/program_state.h"

@@ -1,6 +1,6 @@
 #include "app/app_paths.h"
 
-#include "app/qt_text.h"
+#include "shared/ui/qt_text.h"
 #include "storage/options_file.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #include "app/frmAbout.h"
 
-#include "app/qt_text.h"
+#include "shared/ui/qt_text.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>

@@ -1,6 +1,6 @@
 #include "app/frmGameNum.h"
 
-#include "app/qt_text.h"
+#include "shared/ui/qt_text.h"
 #include "model/program_state.h"
 #include "model/text.h"
 

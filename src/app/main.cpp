@@ -2,7 +2,7 @@
 #include "app/Orvens_Mapper.h"
 #include "app/app_paths.h"
 #include "app/qt_platform.h"
-#include "app/qt_text.h"
+#include "shared/ui/qt_text.h"
 #include "model/program_state.h"
 #include "model/world.h"
 

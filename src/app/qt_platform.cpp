@@ -1,6 +1,6 @@
 #include "app/qt_platform.h"
 
-#include "app/qt_text.h"
+#include "shared/ui/qt_text.h"
 
 #include <QApplication>
 #include <QClipboard>

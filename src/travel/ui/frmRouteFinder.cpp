@@ -1,6 +1,6 @@
 #include "travel/ui/frmRouteFinder.h"
 
-#include "app/qt_text.h"
+#include "shared/ui/qt_text.h"
 #include "model/text.h"
 #include "travel/route_finder.h"
 

@@ -1,6 +1,6 @@
 #include "view/ui/terrain_palette.h"
 
-#include "app/qt_text.h"
+#include "shared/ui/qt_text.h"
 #include "model/terrain.h"
 #include "view/draw/tile_sheet.h"
 

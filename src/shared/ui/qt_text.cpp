@@ -1,4 +1,4 @@
-#include "app/qt_text.h"
+#include "shared/ui/qt_text.h"
 
 #include <array>
 
