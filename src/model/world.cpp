@@ -1,5 +1,7 @@
 #include "model/world.h"
 
+#include "model/change_recorder.h"
+
 #include <cstring>
 #include <stdexcept>
 
@@ -110,44 +112,64 @@ World::World()
 {
 }
 
-Sector &World::sector(int x, int y)
+std::size_t World::sectorIndex(int x, int y) const
 {
     if (x < 0 || x > kMapSize)
         badIndex("sector x", x);
     if (y < 0 || y > kMapSize)
         badIndex("sector y", y);
-    return sectors_[static_cast<std::size_t>(y) * kSectorStride + x];
+    return static_cast<std::size_t>(y) * kSectorStride + x;
+}
+
+Sector &World::sector(int x, int y)
+{
+    const std::size_t i = sectorIndex(x, y);
+    if (recorder_)
+        recorder_->sector(i);
+    return sectors_[i];
 }
 
 const Sector &World::sector(int x, int y) const
 {
-    return const_cast<World *>(this)->sector(x, y);
+    return sectors_[sectorIndex(x, y)];
 }
 
 Settlement &World::settlement(int n)
 {
     if (n < 0 || n > kMaxSettlements)
         badIndex("settlement", n);
+    if (recorder_)
+        recorder_->settlement(n);
     return settlements_[n];
 }
 
 const Settlement &World::settlement(int n) const
 {
-    return const_cast<World *>(this)->settlement(n);
+    if (n < 0 || n > kMaxSettlements)
+        badIndex("settlement", n);
+    return settlements_[n];
 }
 
-const PackedShop &World::packed(int n, int shop) const
-{
-    return const_cast<World *>(this)->packed(n, shop);
-}
-
-PackedShop &World::packed(int n, int shop)
+std::size_t World::shopIndex(int n, int shop) const
 {
     if (n < 0 || n > kMaxSettlements)
         badIndex("settlement", n);
     if (!isShopIndex(shop))
         badIndex("shop", shop);
-    return shops_[static_cast<std::size_t>(n) * kShopCount + shop];
+    return static_cast<std::size_t>(n) * kShopCount + shop;
+}
+
+const PackedShop &World::packed(int n, int shop) const
+{
+    return shops_[shopIndex(n, shop)];
+}
+
+PackedShop &World::packedForWriting(int n, int shop)
+{
+    const std::size_t i = shopIndex(n, shop);
+    if (recorder_)
+        recorder_->shop(i);
+    return shops_[i];
 }
 
 std::string_view World::shopName(int n, int shop) const
@@ -157,7 +179,7 @@ std::string_view World::shopName(int n, int shop) const
 
 void World::setShopName(int n, int shop, std::string_view name)
 {
-    packed(n, shop).setField(0, name);
+    packedForWriting(n, shop).setField(0, name);
 }
 
 std::string_view World::item(int n, int shop, int item, ItemField f) const
@@ -171,7 +193,7 @@ void World::setItem(int n, int shop, int item, ItemField f, std::string_view tex
 {
     if (!isItemIndex(item))
         badIndex("item", item);
-    packed(n, shop).setField(PackedShop::itemFieldIndex(item, f), text);
+    packedForWriting(n, shop).setField(PackedShop::itemFieldIndex(item, f), text);
 }
 
 ShopTexts World::shop(int n, int shop) const
@@ -181,36 +203,44 @@ ShopTexts World::shop(int n, int shop) const
 
 void World::setShop(int n, int shop, const ShopTexts &texts)
 {
-    packed(n, shop).assign(texts);
+    packedForWriting(n, shop).assign(texts);
 }
 
 void World::setShop(int n, int shop, const JoinedShopTexts &texts)
 {
-    packed(n, shop).assign(texts);
+    packedForWriting(n, shop).assign(texts);
 }
 
 Dungeon &World::dungeon(int d)
 {
     if (d < 0 || d > kMaxDungeons)
         badIndex("dungeon", d);
+    if (recorder_)
+        recorder_->dungeon(d);
     return dungeons_[d];
 }
 
 const Dungeon &World::dungeon(int d) const
 {
-    return const_cast<World *>(this)->dungeon(d);
+    if (d < 0 || d > kMaxDungeons)
+        badIndex("dungeon", d);
+    return dungeons_[d];
 }
 
 std::string &World::questorItemName(int number)
 {
     if (number < kQuestorFirstItem || number > kQuestorLastItem)
         badIndex("QuestOR item", number);
+    if (recorder_)
+        recorder_->questorItemName(number);
     return questorItemNames_[number];
 }
 
 const std::string &World::questorItemName(int number) const
 {
-    return const_cast<World *>(this)->questorItemName(number);
+    if (number < kQuestorFirstItem || number > kQuestorLastItem)
+        badIndex("QuestOR item", number);
+    return questorItemNames_[number];
 }
 
 namespace {
@@ -247,6 +277,8 @@ void World::setQuestorNameIndex(int n, int shop, int item, int index)
 
 void World::clear()
 {
+    if (recorder_)
+        recorder_->clearing();
     for (Sector &s : sectors_)
         s = Sector{};
     for (Settlement &s : settlements_)

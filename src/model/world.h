@@ -70,6 +70,8 @@ struct ShopTexts {
 };
 
 class JoinedShopTexts;
+class ChangeRecorder;
+struct RecordedChanges;
 
 // A shop's 61 texts packed into one buffer: a full map holds over three
 // million item texts, and one std::string each would not fit the memory
@@ -84,6 +86,9 @@ public:
     void assign(const JoinedShopTexts &texts); // all kFieldCount fields present
     ShopTexts unpack() const;
     bool empty() const { return data_.empty(); }
+    // The packing is canonical (an empty shop holds nothing, offsets follow
+    // from the field lengths), so equal bytes mean equal texts.
+    bool operator==(const PackedShop &other) const { return data_ == other.data_; }
     std::size_t heapBytes() const { return data_.capacity() > 15 ? data_.capacity() : 0; }
 
     static int itemFieldIndex(int item, ItemField f) { return 1 + (item - 1) * 3 + static_cast<int>(f); }
@@ -145,6 +150,12 @@ struct Dungeon {
 // The one store of everything known about a game world. Every table has its
 // fixed capacity; accessors check indices and throw std::out_of_range on a
 // programming error, so that no input can ever write outside a table.
+//
+// While an undo step is open, a ChangeRecorder is attached: every non-const
+// accessor and setter reports the record it is about to hand out or change,
+// before the caller can write to it, so that the recorder can keep the
+// record's state from before the step. With no step open the pointer is null
+// and the accessors cost one test more.
 class World {
 public:
     World();
@@ -189,7 +200,13 @@ public:
     const PackedShop &packed(int n, int shop) const;
 
 private:
-    PackedShop &packed(int n, int shop);
+    // The undo machinery reads, takes and swaps records without reporting them.
+    friend class ChangeRecorder;
+    friend struct RecordedChanges;
+
+    std::size_t sectorIndex(int x, int y) const;
+    std::size_t shopIndex(int n, int shop) const;
+    PackedShop &packedForWriting(int n, int shop);
 
     std::vector<Sector> sectors_; // (kMapSize+1)^2, row 0 / column 0 unused
     std::array<Settlement, kMaxSettlements + 1> settlements_;
@@ -198,6 +215,7 @@ private:
     std::vector<std::string> questorItemNames_; // kQuestorLastItem + 1
     // Few items ever carry a name index: kept sparse, by item position.
     std::unordered_map<std::uint32_t, std::uint16_t> questorNameIndexes_;
+    ChangeRecorder *recorder_ = nullptr;
 };
 
 } // namespace wayscribe
