@@ -57,7 +57,8 @@ public:
     // Runs a command that may replace the document (New, Open). When it
     // touched the world or the game number the history is emptied, as the
     // old map's steps cannot apply to another map, and the change is the
-    // whole map. Records no copies.
+    // whole map. Records no copies: an apply inside it records nothing, and
+    // a replace inside an open step is simply part of that step.
     WorldChange replace(const std::function<void()> &command);
 
     bool canUndo() const;
