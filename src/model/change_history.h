@@ -29,8 +29,8 @@ struct WorldChange {
 // full screen of the map picture shows fewer.
 inline constexpr std::size_t kMaxListedSectors = 4096;
 
-// The history keeps at most this much (256 MB, four full maps' worth of
-// records), dropping its oldest steps first.
+// The history keeps at most this much (256 MB, some fifteen steps that each
+// overwrite a full map), dropping its oldest steps first.
 inline constexpr std::size_t kDefaultHistoryBudget = std::size_t{256} * 1024 * 1024;
 
 // The undo history of one world and its document. Every change to the world
