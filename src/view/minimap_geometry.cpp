@@ -1,6 +1,5 @@
 #include "view/minimap_geometry.h"
 
-#include "model/program_state.h"
 #include "model/text.h"
 #include "view/view_navigation.h"
 
@@ -15,24 +14,24 @@ MinimapPixel minimapPixelOf(int x, int y)
 
 MinimapViewRect minimapViewRect(const ProgramState &state)
 {
-    return {state.view.viewLeft / 2, state.view.viewTop / 2, state.view.viewCols / 2, state.view.viewRows / 2};
+    return {state.view.viewLeft / 2, state.view.viewTop / 2, state.view.viewCols / 2,
+            state.view.viewRows / 2};
 }
 
 namespace {
-// The origin before clamping; far-off values are held in range so that the
-// 16-bit field cannot wrap before clampView pulls it back.
+// The origin that puts the point in the middle of the view, kept inside the
+// world. Far-off clicks only need to stay far off on their way to an integer.
 std::int16_t originFor(double position, int visible)
 {
     const double origin = roundHalfEven(2 * position - 1) - visible / 2;
-    return static_cast<std::int16_t>(std::clamp(origin, -32768.0, 32767.0));
+    return clampedViewOrigin(static_cast<long long>(std::clamp(origin, -1e9, 1e9)), visible);
 }
 } // namespace
 
-void moveViewToMinimapPoint(ProgramState &state, double x, double y)
+void moveViewToMinimapPoint(ViewState &view, double x, double y)
 {
-    state.view.viewLeft = originFor(x, state.view.viewCols);
-    state.view.viewTop = originFor(y, state.view.viewRows);
-    clampView(state);
+    view.viewLeft = originFor(x, view.viewCols);
+    view.viewTop = originFor(y, view.viewRows);
 }
 
 } // namespace wayscribe

@@ -1,7 +1,6 @@
 #include "view/view_navigation.h"
 
 #include "model/platform.h"
-#include "model/program_state.h"
 #include "model/text.h"
 #include "model/world.h"
 
@@ -9,28 +8,30 @@
 
 namespace wayscribe {
 
-namespace {
-std::int16_t clampOrigin(long origin, int visible)
+int largestViewOrigin(int visible)
 {
-    origin = std::min<long>(origin, kMapSize - visible);
-    return static_cast<std::int16_t>(std::max<long>(origin, 0));
-}
-} // namespace
-
-void clampView(ProgramState &state)
-{
-    state.view.viewLeft = clampOrigin(state.view.viewLeft, state.view.viewCols);
-    state.view.viewTop = clampOrigin(state.view.viewTop, state.view.viewRows);
+    return std::max(0, kMapSize - visible);
 }
 
-void centreView(ProgramState &state, Platform &platform, int x, int y)
+std::int16_t clampedViewOrigin(long long origin, int visible)
 {
-    state.view.viewLeft = clampOrigin(static_cast<long>(x) - state.view.viewCols / 2, state.view.viewCols);
-    state.view.viewTop = clampOrigin(static_cast<long>(y) - state.view.viewRows / 2, state.view.viewRows);
+    return static_cast<std::int16_t>(std::clamp<long long>(origin, 0, largestViewOrigin(visible)));
+}
+
+void clampView(ViewState &view)
+{
+    view.viewLeft = clampedViewOrigin(view.viewLeft, view.viewCols);
+    view.viewTop = clampedViewOrigin(view.viewTop, view.viewRows);
+}
+
+void centreView(ViewState &view, Platform &platform, int x, int y)
+{
+    view.viewLeft = clampedViewOrigin(static_cast<long long>(x) - view.viewCols / 2, view.viewCols);
+    view.viewTop = clampedViewOrigin(static_cast<long long>(y) - view.viewRows / 2, view.viewRows);
     platform.redrawMap();
 }
 
-void gotoXYCommand(ProgramState &state, Platform &platform)
+void gotoXYCommand(ViewState &view, Platform &platform)
 {
     const std::string answer = platform.inputBox(
         "Please enter X and Y co-ordinates in the format 'X, Y' (eg '3, 78')", "Goto X:Y", "");
@@ -41,7 +42,7 @@ void gotoXYCommand(ProgramState &state, Platform &platform)
     const long long y = indexValue(std::string_view(answer).substr(comma + 1));
     // Far-off numbers only need to stay far off: the clamp does the rest.
     auto fit = [](long long v) { return static_cast<int>(std::clamp<long long>(v, -100000, 100000)); };
-    centreView(state, platform, fit(x), fit(y));
+    centreView(view, platform, fit(x), fit(y));
 }
 
 } // namespace wayscribe

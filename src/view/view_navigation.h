@@ -1,21 +1,43 @@
 #pragma once
 
+#include "model/program_state.h"
+
+#include <cstdint>
+
 namespace wayscribe {
 
-struct ProgramState;
 class Platform;
 
-// Keeps the scroll origin inside the world for the current view size:
+// The largest scroll origin (ViewLeft for a width, ViewTop for a height)
+// at which a view `visible` sectors across still ends inside the world:
+// 200 - visible, and 0 for a view wider than the world. The scroll bars use
+// it as their maximum.
+int largestViewOrigin(int visible);
+
+// An origin kept inside the world for a view `visible` sectors across:
 // first pulled back from the far edge, then a negative value becomes 0.
-void clampView(ProgramState &state);
+std::int16_t clampedViewOrigin(long long origin, int visible);
+
+// Keeps the scroll origin inside the world for the current view size.
+void clampView(ViewState &view);
 
 // Puts sector (x, y) in the middle of the view (as far as the world's edges
 // allow) and redraws. Coordinates outside the world are not refused: the
 // view goes to the nearest edge.
-void centreView(ProgramState &state, Platform &platform, int x, int y);
+void centreView(ViewState &view, Platform &platform, int x, int y);
 
 // View, Goto X Y: asks for "X, Y" and centres the view there. An answer
 // without a comma does nothing; a part that is not a number counts as 0.
-void gotoXYCommand(ProgramState &state, Platform &platform);
+void gotoXYCommand(ViewState &view, Platform &platform);
+
+// The main window's callers still hand over the whole program state.
+inline void clampView(ProgramState &state)
+{
+    clampView(state.view);
+}
+inline void gotoXYCommand(ProgramState &state, Platform &platform)
+{
+    gotoXYCommand(state.view, platform);
+}
 
 } // namespace wayscribe

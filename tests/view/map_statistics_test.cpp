@@ -42,15 +42,15 @@ TEST(ViewNavigation, CentreClampsToTheWorld)
     test::ScriptedPlatform p;
     s.view.viewCols = 40;
     s.view.viewRows = 30;
-    centreView(s, p, 3, 78);
+    centreView(s.view, p, 3, 78);
     EXPECT_EQ(s.view.viewLeft, 0);
     EXPECT_EQ(s.view.viewTop, 63);
-    centreView(s, p, 500, 500);
+    centreView(s.view, p, 500, 500);
     EXPECT_EQ(s.view.viewLeft, 160);
     EXPECT_EQ(s.view.viewTop, 170);
     EXPECT_EQ(p.redraws, 2);
     s.view.viewCols = 250; // a view wider than the world starts at its edge
     s.view.viewLeft = 9;
-    clampView(s);
+    clampView(s.view);
     EXPECT_EQ(s.view.viewLeft, 0);
 }
