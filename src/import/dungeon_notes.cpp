@@ -1,7 +1,6 @@
 #include "import/dungeon_notes.h"
 
 #include "import/report_state.h"
-#include "import/report_text.h"
 #include "model/text.h"
 #include "model/world.h"
 

@@ -2,7 +2,7 @@
 
 #include "import/report_reader.h"
 #include "import/report_state.h"
-#include "import/report_text.h"
+#include "model/text.h"
 
 #include <cstdint>
 #include <limits>
@@ -24,9 +24,9 @@ long offsetValue(const ReportReader &in, std::string_view text)
 void readOffsets(const ReportReader &in, std::string_view text, DungeonSighting &dungeon)
 {
     if (const long at = positionOf(text, "north"))
-        dungeon.offsetY = -offsetValue(in, firstChars(text, at - 9));
+        dungeon.offsetY = -offsetValue(in, leftChars(text, at - 9));
     if (const long at = positionOf(text, "south"))
-        dungeon.offsetY = offsetValue(in, firstChars(text, at - 9));
+        dungeon.offsetY = offsetValue(in, leftChars(text, at - 9));
     const long andAt = positionOf(text, "and");
     if (const long at = positionOf(text, "east"))
         dungeon.offsetX = offsetValue(in, midChars(text, andAt + 4, at - 9));

@@ -2,7 +2,6 @@
 
 #include "import/report_reader.h"
 #include "import/report_state.h"
-#include "import/report_text.h"
 #include "model/text.h"
 #include "model/world.h"
 
@@ -46,9 +45,9 @@ void readLevelMap(ReportImport &im)
 std::string alignStairs(std::string field)
 {
     if (contains(field, " D "))
-        field = std::string(firstChars(field, 2)) + "  D    " + std::string(midChars(field, 10));
+        field = std::string(leftChars(field, 2)) + "  D    " + std::string(midChars(field, 10));
     if (contains(field, " U "))
-        field = std::string(firstChars(field, 2)) + "  U    " + std::string(midChars(field, 10));
+        field = std::string(leftChars(field, 2)) + "  U    " + std::string(midChars(field, 10));
     return field;
 }
 
@@ -64,7 +63,7 @@ void readRoomData(ReportImport &im)
         if (startsWith(field, "NO.")) {
             rooms = "#   U/D  TYPE\r\n";
         } else {
-            const std::string_view row = firstChars(field, 26);
+            const std::string_view row = leftChars(field, 26);
             rooms += startsWith(field, "Stairs") ? row : trimRightBlanks(row);
             rooms += "\r\n";
         }
@@ -93,8 +92,7 @@ void storeLevel(ReportImport &im)
     const ReportState &r = im.report;
     // Only levels the table has room for, of a dungeon with a name.
     const std::string_view name = trimBlanks(r.dungeonName);
-    if (name.empty() ||
-        !isLevelIndex(r.dungeonLevel))
+    if (name.empty() || !isLevelIndex(r.dungeonLevel))
         return;
     const int slot = dungeonSlot(im.world, name);
     if (slot == 0)

@@ -2,7 +2,6 @@
 
 #include "import/report_reader.h"
 #include "import/report_state.h"
-#include "import/report_text.h"
 #include "model/platform.h"
 #include "model/program_state.h"
 #include "model/text.h"
@@ -103,7 +102,7 @@ void readMapTable(ReportImport &im, std::string_view infoLine)
     const long blankAt = positionOf(numbers, " ");
     constexpr long lo = std::numeric_limits<std::int16_t>::min();
     constexpr long hi = std::numeric_limits<std::int16_t>::max();
-    r.mapStartX = im.in.wholeNumber(firstChars(numbers, blankAt - 1), lo, hi, "map start column");
+    r.mapStartX = im.in.wholeNumber(leftChars(numbers, blankAt - 1), lo, hi, "map start column");
     r.mapStartY = im.in.wholeNumber(midChars(numbers, blankAt + 1), lo, hi, "map start row");
 
     // The banner layout's header ends with the first row's own start.

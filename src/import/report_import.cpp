@@ -4,7 +4,6 @@
 #include "import/dungeon_section.h"
 #include "import/map_table.h"
 #include "import/report_reader.h"
-#include "import/report_text.h"
 #include "import/settlement_section.h"
 #include "model/platform.h"
 #include "model/program_state.h"
@@ -68,7 +67,7 @@ void captureHideText(ReportState &r)
     if (!acc.contains(":") || !acc.contains(")") || !acc.contains("@"))
         return;
     const std::string_view text = midChars(acc.text(), acc.position(":") + 2);
-    r.hideText = std::string(firstChars(text, positionOf(text, ".")));
+    r.hideText = std::string(leftChars(text, positionOf(text, ".")));
     r.readMode = kHideCaptured;
 }
 
@@ -85,8 +84,8 @@ void checkGameNumber(ReportImport &im)
     } else if (game != state.document.gameNumber) {
         if (!im.settings.batch)
             im.platform.message("You tried importing from G" + formatPlain(game) + "\r\n" +
-                                    "But this map is for G" + formatPlain(state.document.gameNumber) + "\r\n" +
-                                    "Aborting Import.",
+                                    "But this map is for G" + formatPlain(state.document.gameNumber) +
+                                    "\r\n" + "Aborting Import.",
                                 kProgramTitle, MessageButtons::Ok, MessageIcon::None);
         im.report.aborted = true;
     }

@@ -2,7 +2,6 @@
 
 #include "import/report_reader.h"
 #include "import/report_state.h"
-#include "import/report_text.h"
 #include "model/platform.h"
 #include "model/text.h"
 #include "model/world.h"
@@ -43,12 +42,12 @@ bool isEndOfShops(const ReportState &r, std::string_view field)
 void openShop(ReportImport &im, std::string_view field)
 {
     ReportState &r = im.report;
-    const std::string_view head = firstChars(field, 3);
+    const std::string_view head = leftChars(field, 3);
     const long blankAt = positionOf(head, " ");
-    r.shopNumber =
-        blankAt == 0 ? 0
-                     : im.in.wholeNumber(firstChars(head, blankAt), std::numeric_limits<std::int16_t>::min(),
-                                         std::numeric_limits<std::int16_t>::max(), "shop number");
+    r.shopNumber = blankAt == 0
+                       ? 0
+                       : im.in.wholeNumber(leftChars(head, blankAt), std::numeric_limits<std::int16_t>::min(),
+                                           std::numeric_limits<std::int16_t>::max(), "shop number");
     r.shopName = std::string(trimBlanks(changeCase(trimRightBlanks(midChars(field, 4, 24)), true)));
     r.itemCount = 0;
 }
@@ -88,9 +87,7 @@ void readShopField(ReportImport &im, long settlement, std::string_view field)
     if (!takesRows(r, field))
         return;
     // Rows only go where the tables have room: settlements 1..160, shops 0..110.
-    const bool stored =
-        isSettlementIndex(settlement) &&
-        isShopIndex(r.shopNumber);
+    const bool stored = isSettlementIndex(settlement) && isShopIndex(r.shopNumber);
     if (r.itemCount == 0 && stored)
         clearRows(im.world, static_cast<int>(settlement), static_cast<int>(r.shopNumber));
     if (!contains(field, "Quest") && field.size() <= 26)
@@ -120,7 +117,7 @@ std::optional<ItemRow> parseItemRow(const ReportReader &in, std::string_view row
     const long openAt = positionOf(row, "(");
     const long closeAt = positionOf(row, ")");
     if (openAt != 0 && closeAt != 0) {
-        const std::string_view name = firstChars(row, openAt - 1);
+        const std::string_view name = leftChars(row, openAt - 1);
         item.name = std::string(fromShopLine ? trimLeftBlanks(name) : name);
         item.number = std::string(midChars(row, openAt + 1, closeAt - openAt - 1));
     } else {

@@ -29,18 +29,38 @@ std::string_view trimBlanks(std::string_view text)
     return trimRightBlanks(trimLeftBlanks(text));
 }
 
-std::string_view leftChars(std::string_view text, std::size_t n)
+long positionOf(std::string_view text, std::string_view part, long from)
 {
-    return text.substr(0, n);
+    if (from < 1)
+        from = 1;
+    if (static_cast<std::size_t>(from) > text.size() + 1)
+        return 0;
+    const std::size_t hit = text.find(part, static_cast<std::size_t>(from - 1));
+    return hit == std::string_view::npos ? 0 : static_cast<long>(hit) + 1;
 }
 
-std::string_view fromPosition(std::string_view text, std::size_t position)
+std::string_view midChars(std::string_view text, long start, long length)
 {
-    if (position < 1)
-        position = 1;
-    if (position > text.size())
+    if (length < 0)
         return {};
-    return text.substr(position - 1);
+    return midChars(text, start).substr(0, static_cast<std::size_t>(length));
+}
+
+std::string_view midChars(std::string_view text, long start)
+{
+    if (start < 1 || static_cast<std::size_t>(start) > text.size())
+        return {};
+    return text.substr(static_cast<std::size_t>(start - 1));
+}
+
+std::string_view leftChars(std::string_view text, long count)
+{
+    return count < 0 ? std::string_view{} : text.substr(0, static_cast<std::size_t>(count));
+}
+
+std::string_view dropLast(std::string_view text, long count)
+{
+    return leftChars(text, static_cast<long>(text.size()) - count);
 }
 
 bool startsWith(std::string_view text, std::string_view prefix)

@@ -13,10 +13,26 @@ std::string_view trimBlanks(std::string_view text);
 std::string_view trimLeftBlanks(std::string_view text);
 std::string_view trimRightBlanks(std::string_view text);
 
-// The first n characters (all of a shorter text), and the text from a
-// 1-based position (empty when the position is past the end).
-std::string_view leftChars(std::string_view text, std::size_t n);
-std::string_view fromPosition(std::string_view text, std::size_t position);
+// Cutting texts by 1-based positions, the way the rules are stated. A text
+// may lack a phrase that a cut is measured from; a cut that cannot be made
+// (a start before the text, a negative length) gives an empty text instead
+// of stopping the caller.
+
+// 1-based position of the first `part` in `text` at or after `from` (a
+// `from` below 1 searches from the start); 0 when absent.
+long positionOf(std::string_view text, std::string_view part, long from = 1);
+
+// `length` characters from 1-based `start` (fewer at the end of the text),
+// and everything from `start` on; empty for a start past the end.
+std::string_view midChars(std::string_view text, long start, long length);
+std::string_view midChars(std::string_view text, long start);
+
+// The first `count` characters: all of a shorter text, none for a negative
+// count.
+std::string_view leftChars(std::string_view text, long count);
+
+// The text without its last `count` characters.
+std::string_view dropLast(std::string_view text, long count);
 
 bool startsWith(std::string_view text, std::string_view prefix);
 bool contains(std::string_view text, std::string_view part);

@@ -20,9 +20,9 @@ const char *flag(bool on)
 
 // The value part of an option line sits at a fixed position: after the
 // key, a blank, "=" and a blank.
-std::string_view valuePart(std::string_view value, std::size_t position)
+std::string_view valuePart(std::string_view value, long position)
 {
-    return fromPosition(value, position);
+    return midChars(value, position);
 }
 
 void applyOption(std::string_view value, ProgramState &state)

@@ -41,9 +41,27 @@ TEST(Trim, RemovesBlanksOnlyNeverTabsOrLineBreaks)
 {
     EXPECT_EQ(trimBlanks("  a b  "), "a b");
     EXPECT_EQ(trimBlanks("\ta\r\n "), "\ta\r\n");
+}
+
+TEST(Cuts, OneBasedAndACutThatCannotBeMadeIsEmpty)
+{
     EXPECT_EQ(leftChars("abc", 10), "abc");
-    EXPECT_EQ(fromPosition("abc", 2), "bc");
-    EXPECT_EQ(fromPosition("abc", 4), "");
+    EXPECT_EQ(leftChars("abc", -1), "");
+    EXPECT_EQ(midChars("abc", 2), "bc");
+    EXPECT_EQ(midChars("abc", 4), "");
+    EXPECT_EQ(midChars("abc", 0), "") << "a phrase that is absent gives position 0";
+    EXPECT_EQ(midChars("abcdef", 2, 3), "bcd");
+    EXPECT_EQ(midChars("abcdef", 5, 9), "ef");
+    EXPECT_EQ(midChars("abcdef", 2, -1), "");
+    EXPECT_EQ(dropLast("abcdef", 2), "abcd");
+    EXPECT_EQ(dropLast("ab", 3), "");
+
+    EXPECT_EQ(positionOf("a(b)(c)", "("), 2);
+    EXPECT_EQ(positionOf("a(b)(c)", "(", 3), 5);
+    EXPECT_EQ(positionOf("a(b)(c)", "(", -4), 2);
+    EXPECT_EQ(positionOf("abc", "", 4), 4);
+    EXPECT_EQ(positionOf("abc", "", 5), 0);
+    EXPECT_EQ(positionOf("abc", "x"), 0);
 }
 
 TEST(ChangeCase, ProperAndLowerCase)
