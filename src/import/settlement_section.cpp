@@ -3,10 +3,10 @@
 #include "import/dungeon_notes.h"
 #include "import/report_reader.h"
 #include "import/report_state.h"
-#include "import/report_text.h"
 #include "import/shop_lines.h"
 #include "model/platform.h"
 #include "model/program_state.h"
+#include "model/settlement_lookup.h"
 #include "model/text.h"
 #include "model/world.h"
 
@@ -32,7 +32,7 @@ bool parseHeading(const ReportReader &in, std::string_view heading, SettlementHe
     if (openAt == 0)
         return false;
     const std::string_view name = midChars(heading, ofAt + 3, openAt - (ofAt + 3));
-    out.name = std::string(firstChars(name, 1)) + changeCase(midChars(name, 2), false);
+    out.name = std::string(leftChars(name, 1)) + changeCase(midChars(name, 2), false);
     const long closeAt = positionOf(heading, ")", openAt + 1);
     const std::string_view number =
         closeAt == 0 ? midChars(heading, openAt + 1) : midChars(heading, openAt + 1, closeAt - openAt - 1);
@@ -45,10 +45,11 @@ bool parseHeading(const ReportReader &in, std::string_view heading, SettlementHe
 // name: the person decides.
 bool confirmPlacement(ReportImport &im, const SettlementHeading &s, const SectorPosition &party)
 {
-    const Settlement &record = im.world.settlement(static_cast<int>(s.number));
-    if (!isSectorIndex(record.x) || !isSectorIndex(record.y))
+    const SettlementLookup placed = lookUpSettlement(im.world, s.number);
+    if (!placed.onMap)
         return true;
-    const std::string &stored = im.world.sector(record.x, record.y).settlementName;
+    const Settlement &record = *placed.record;
+    const std::string &stored = placed.sector->settlementName;
     if (stored.empty() || (record.x == party.x && record.y == party.y && stored == s.name))
         return true;
     const std::string number = formatPlain(s.number);
@@ -110,8 +111,7 @@ void readSettlementSection(ReportImport &im, std::string_view heading)
     SettlementHeading s;
     if (!parseHeading(im.in, heading, s))
         return;
-    const bool numbered =
-        isSettlementIndex(s.number);
+    const bool numbered = isSettlementIndex(s.number);
     if (numbered && placed && confirmPlacement(im, s, r.party))
         placeSettlement(im, s, r.party);
 

@@ -1,6 +1,7 @@
 #include "travel/journey_table.h"
 
 #include "model/platform.h"
+#include "model/settlement_lookup.h"
 #include "model/text.h"
 
 #include <cmath>
@@ -56,14 +57,8 @@ SettlementPositions settlementPositions(const World &world)
 
 std::string_view settlementNameOf(const World &world, long long number)
 {
-    if (!isSettlementIndex(number))
-        return {};
-    const Settlement &s = world.settlement(static_cast<int>(number));
-    // A free settlement stands at (0, 0), a sector that never holds a name;
-    // a broken file may place one beyond the map.
-    if (s.x > kMapSize || s.y > kMapSize)
-        return {};
-    return world.sector(s.x, s.y).settlementName;
+    const SettlementLookup found = lookUpSettlement(world, number);
+    return found.sector ? std::string_view(found.sector->settlementName) : std::string_view();
 }
 
 std::string settlementBoxText(const World &world, long long number)

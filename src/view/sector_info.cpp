@@ -1,5 +1,6 @@
 #include "view/sector_info.h"
 
+#include "model/settlement_lookup.h"
 #include "model/terrain.h"
 #include "model/text.h"
 #include "model/world.h"
@@ -16,11 +17,12 @@ SectorInfo describeSector(const World &world, int x, int y)
     // as what the player knows of them, which is nothing.
     info.terrain = isNamedTerrain(s.terrain) ? std::string(terrainName(s.terrain)) : "Unknown";
     info.note = s.note;
-    const int n = s.settlementNumber;
-    if (isSettlementIndex(n) && world.settlement(n).inUse == 1) {
+    // The sector's own name is shown, whichever sector the record points at.
+    const SettlementLookup standing = lookUpSettlement(world, s.settlementNumber);
+    if (standing.inUse) {
         info.settlementName = s.settlementName;
-        info.settlementNumber = formatPlain(n);
-        info.cityState = world.settlement(n).cityState;
+        info.settlementNumber = formatPlain(s.settlementNumber);
+        info.cityState = standing.record->cityState;
     }
     return info;
 }
