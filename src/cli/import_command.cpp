@@ -12,9 +12,9 @@
 
 #include "import/batch_import.h"
 #include "import/html_import.h"
+#include "model/file_paths.h"
 #include "model/program_state.h"
 #include "model/world.h"
-#include "storage/map_commands.h"
 #include "storage/map_file.h"
 #include "storage/options_file.h"
 
@@ -86,7 +86,7 @@ static int runImport(const Args &args, std::ostream &, std::ostream &err)
         return status;
     CliPlatform platform(err, run.answer);
     for (const std::string &report : p.positional)
-        if (importHtmlFile(*run.world, run.state, platform, report) == ReportResult::NotOpened)
+        if (importHtmlFile(*run.world, run.state, platform, report, writeOptions) == ReportResult::NotOpened)
             return kInputError;
     return save(run, *p.option("--out"), err);
 }
@@ -106,7 +106,7 @@ static int runBatch(const Args &args, std::ostream &, std::ostream &err)
     if (const int status = prepare(p, run, err); status != kOk)
         return status;
     CliPlatform platform(err, run.answer);
-    const BatchOutcome outcome = importHtmlFolder(*run.world, run.state, platform, folder);
+    const BatchOutcome outcome = importHtmlFolder(*run.world, run.state, platform, folder, writeOptions);
     if (!outcome.listed || outcome.notOpened > 0)
         return kInputError;
     return save(run, *p.option("--out"), err);

@@ -1,12 +1,11 @@
 #include "import/batch_import.h"
 
-#include "import/html_import.h"
 #include "import/report_import.h"
+#include "model/file_job.h"
+#include "model/file_paths.h"
 #include "model/platform.h"
 #include "model/program_state.h"
 #include "model/text.h"
-#include "storage/map_commands.h"
-#include "storage/options_file.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -59,17 +58,15 @@ bool reportFilesInFolder(const std::string &folder, std::vector<std::string> &fi
 }
 
 BatchOutcome importHtmlFolder(World &world, ProgramState &state, Platform &platform,
-                              const std::string &folder)
+                              const std::string &folder, const OptionsWriter &saveOptions)
 {
     BatchOutcome outcome;
     if (state.document.fileBusy)
         return outcome;
     state.document.mapChanged = 1;
-    platform.setStatus(kBatchStatus);
-    platform.setWaitCursor(true);
-    state.document.fileBusy = 1;
+    FileJob job(state.document, platform, kBatchStatus);
     state.options.lastImp = withSeparator(folder);
-    writeOptions(state, platform);
+    saveOptions(state, platform);
 
     std::vector<std::string> files;
     std::string error;
@@ -97,14 +94,12 @@ BatchOutcome importHtmlFolder(World &world, ProgramState &state, Platform &platf
         }
     }
 
-    platform.setWaitCursor(false);
-    platform.setStatus("");
-    state.document.fileBusy = 0;
+    job.finish();
     platform.redrawMap();
     return outcome;
 }
 
-void batchImportHtml(World &world, ProgramState &state, Platform &platform)
+void batchImportHtml(World &world, ProgramState &state, Platform &platform, const OptionsWriter &saveOptions)
 {
     if (state.document.fileBusy)
         return;
@@ -112,7 +107,7 @@ void batchImportHtml(World &world, ProgramState &state, Platform &platform)
         {"Select folder with HTML turns...", kHtmlFileFilter, state.options.lastImp, ""});
     if (path.empty())
         return;
-    importHtmlFolder(world, state, platform, folderPart(path));
+    importHtmlFolder(world, state, platform, folderPart(path), saveOptions);
 }
 
 } // namespace wayscribe

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "import/html_import.h"
+
 #include <string>
 #include <vector>
 
@@ -27,9 +29,9 @@ struct BatchOutcome {
 // the message about another game's report and without moving the view;
 // one redraw at the end. Does nothing while another file job runs.
 BatchOutcome importHtmlFolder(World &world, ProgramState &state, Platform &platform,
-                              const std::string &folder);
+                              const std::string &folder, const OptionsWriter &saveOptions);
 
 // File, Batch Import: the person picks any file in the folder of reports.
-void batchImportHtml(World &world, ProgramState &state, Platform &platform);
+void batchImportHtml(World &world, ProgramState &state, Platform &platform, const OptionsWriter &saveOptions);
 
 } // namespace wayscribe

@@ -1,10 +1,9 @@
 #include "import/html_import.h"
 
+#include "model/file_job.h"
+#include "model/file_paths.h"
 #include "model/platform.h"
 #include "model/program_state.h"
-#include "model/world.h"
-#include "storage/map_commands.h"
-#include "storage/options_file.h"
 #include "view/view_navigation.h"
 
 #include <algorithm>
@@ -15,42 +14,37 @@ namespace {
 
 // Brings the imported map into sight: its start a little left of and above
 // the middle of the view, kept inside the world.
-void showImportedMap(ProgramState &state, Platform &platform, long startX, long startY)
+void showImportedMap(ViewState &view, Platform &platform, long startX, long startY)
 {
-    const long left = std::max(1L, startX - state.view.viewCols / 2 + 5);
-    const long top = std::max(1L, startY - state.view.viewRows / 2 + 5);
-    state.view.viewLeft = static_cast<std::int16_t>(std::min<long>(left, kMapSize));
-    state.view.viewTop = static_cast<std::int16_t>(std::min<long>(top, kMapSize));
-    clampView(state);
+    view.viewLeft = clampedViewOrigin(std::max(1L, startX - view.viewCols / 2 + 5), view.viewCols);
+    view.viewTop = clampedViewOrigin(std::max(1L, startY - view.viewRows / 2 + 5), view.viewRows);
     platform.redrawMap();
 }
 
 } // namespace
 
-ReportResult importHtmlFile(World &world, ProgramState &state, Platform &platform, const std::string &path)
+ReportResult importHtmlFile(World &world, ProgramState &state, Platform &platform, const std::string &path,
+                            const OptionsWriter &saveOptions)
 {
     if (state.document.fileBusy)
         return ReportResult::NotOpened;
     state.document.mapChanged = 1;
-    platform.setStatus("Please wait, importing HTML turn...");
-    platform.setWaitCursor(true);
-    state.document.fileBusy = 1;
+    FileJob job(state.document, platform, "Please wait, importing HTML turn...",
+                FileJobEnd::StatusThenCursor);
     state.options.lastImp = folderPart(path);
-    writeOptions(state, platform);
+    saveOptions(state, platform);
 
     const ReportOutcome outcome = readReport(world, state, platform, path, ImportSettings{false});
 
-    platform.setStatus("");
-    platform.setWaitCursor(false);
-    state.document.fileBusy = 0;
+    job.finish();
     if (outcome.result == ReportResult::Imported && !outcome.aborted && outcome.mapSeen)
-        showImportedMap(state, platform, outcome.mapStartX, outcome.mapStartY);
+        showImportedMap(state.view, platform, outcome.mapStartX, outcome.mapStartY);
     else if (outcome.result == ReportResult::Stopped)
         platform.redrawMap(); // show what was read before the report stopped, where the view is
     return outcome.result;
 }
 
-void Import_HTML(World &world, ProgramState &state, Platform &platform)
+void Import_HTML(World &world, ProgramState &state, Platform &platform, const OptionsWriter &saveOptions)
 {
     if (state.document.fileBusy)
         return;
@@ -58,7 +52,7 @@ void Import_HTML(World &world, ProgramState &state, Platform &platform)
         platform.chooseOpenFile({"Import HTML Turn...", kHtmlFileFilter, state.options.lastImp, ""});
     if (path.empty())
         return;
-    importHtmlFile(world, state, platform, path);
+    importHtmlFile(world, state, platform, path, saveOptions);
 }
 
 } // namespace wayscribe

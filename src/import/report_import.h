@@ -1,7 +1,7 @@
 #pragma once
 
 #include "import/report_state.h"
-#include "storage/map_file.h"
+#include "model/file_error.h"
 
 #include <string>
 

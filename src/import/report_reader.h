@@ -1,7 +1,7 @@
 #pragma once
 
+#include "model/file_error.h"
 #include "model/text.h"
-#include "storage/map_file.h"
 
 #include <string>
 #include <string_view>

@@ -1,5 +1,6 @@
 #include "storage/map_commands.h"
 
+#include "model/file_job.h"
 #include "model/new_map.h"
 #include "model/platform.h"
 #include "model/program_state.h"
@@ -9,33 +10,7 @@
 #include "storage/map_merge.h"
 #include "storage/options_file.h"
 
-#include <fstream>
-
 namespace wayscribe {
-
-std::string folderPart(const std::string &path)
-{
-    const std::size_t slash = path.find_last_of("/\\");
-    return slash == std::string::npos ? std::string() : path.substr(0, slash + 1);
-}
-
-bool fileExists(const std::string &path)
-{
-    std::ifstream in(path, std::ios::binary);
-    return static_cast<bool>(in);
-}
-
-namespace {
-
-// The end of every file job, whether it completed or not.
-void finishFileJob(ProgramState &state, Platform &platform)
-{
-    state.document.fileBusy = 0;
-    platform.setWaitCursor(false);
-    platform.setStatus("");
-}
-
-} // namespace
 
 bool Load_Map(World &world, ProgramState &state, Platform &platform, const std::string &name)
 {
@@ -46,16 +21,14 @@ bool Load_Map(World &world, ProgramState &state, Platform &platform, const std::
             return false;
     }
     state.document.mapChanged = 0;
-    platform.setStatus("Please wait, loading map...");
-    platform.setWaitCursor(true);
-    state.document.fileBusy = 1;
+    FileJob job(state.document, platform, "Please wait, loading map...");
     state.document.mapFileName = path;
     state.options.lastFile = folderPart(path);
     state.options.wmol = path;
     writeOptions(state, platform);
 
     const MapReadResult result = readMapFile(path, world, state.document.gameNumber);
-    finishFileJob(state, platform);
+    job.finish();
     if (!result.ok) {
         // The model now mixes the old map with the part of the file that
         // could be read: keep it marked as changed so that nothing is
@@ -96,12 +69,10 @@ bool Save_Map(World &world, ProgramState &state, Platform &platform, bool choose
         target = state.document.mapFileName;
     }
     state.options.wmol = target;
-    platform.setStatus("Please wait, saving map...");
-    platform.setWaitCursor(true);
-    state.document.fileBusy = 1;
+    FileJob job(state.document, platform, "Please wait, saving map...");
     FileError error;
     const bool ok = writeMapFile(target, world, state.document.gameNumber, error);
-    finishFileJob(state, platform);
+    job.finish();
     if (!ok) {
         state.document.mapChanged = 1;
         platform.message("The map could not be saved. The file on disk is unchanged and the map is still "
@@ -159,14 +130,12 @@ void mergeMapCommand(World &world, ProgramState &state, Platform &platform)
     if (path.empty() || !contains(path, ".om1"))
         return;
     state.document.mapChanged = 1;
-    platform.setStatus("Please wait, merging maps...");
-    platform.setWaitCursor(true);
-    state.document.fileBusy = 1;
+    FileJob job(state.document, platform, "Please wait, merging maps...");
     const MapReadResult result = mergeMapFile(path, world, state.document.gameNumber);
     if (!result.ok)
         platform.message("There was an unknown error merging the map.", kProgramTitle, MessageButtons::Ok,
                          MessageIcon::None, result.error.describe());
-    finishFileJob(state, platform);
+    job.finish();
     platform.redrawMap();
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/file_paths.h"
+
 #include <string>
 
 namespace wayscribe {
@@ -32,10 +34,5 @@ bool confirmExit(World &world, ProgramState &state, Platform &platform);
 
 // File, Merge Map: asks for a second map file and merges it in.
 void mergeMapCommand(World &world, ProgramState &state, Platform &platform);
-
-// Everything up to and including the last folder separator of a path.
-std::string folderPart(const std::string &path);
-
-bool fileExists(const std::string &path);
 
 } // namespace wayscribe

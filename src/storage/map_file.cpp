@@ -4,85 +4,52 @@
 #include "model/world.h"
 #include "storage/atomic_file.h"
 #include "storage/line_reader.h"
+#include "storage/map_fields.h"
 
 namespace wayscribe {
 
-std::string FileError::describe() const
-{
-    if (line > 0)
-        return path + ", line " + std::to_string(line) + ": " + reason;
-    return path + ": " + reason;
-}
-
 namespace {
 
-struct ShopRange {
-    int first, last;
-};
+// Loading: every field of the file replaces the model's own.
+class LoadFields {
+public:
+    explicit LoadFields(World &world) : world_(world) {}
 
-ShopRange shopRange(int version)
-{
-    return version < 10 ? ShopRange{1, 99} : ShopRange{0, kMaxShop};
-}
-
-// Reads one shop. On a failure the fields read so far are stored and the
-// rest keep their previous contents. `draft` is scratch space reused from
-// shop to shop.
-bool readShop(MapLineReader &in, World &world, int n, int s, JoinedShopTexts &draft)
-{
-    draft.clear();
-    std::string_view text;
-    while (draft.count() < PackedShop::kFieldCount && in.readTextView(text))
-        draft.add(text);
-    if (draft.count() == PackedShop::kFieldCount) {
-        world.setShop(n, s, draft);
-        return true;
+    bool terrain(MapLineReader &in, std::uint8_t &current) { return in.readByte(current); }
+    bool number(MapLineReader &in, std::uint8_t &current) { return in.readByte(current); }
+    bool text(MapLineReader &in, std::string &current, bool escaped)
+    {
+        return escaped ? in.readEscapedText(current) : in.readText(current);
     }
-    if (draft.count() > 0)
-        world.setShopName(n, s, draft.field(0));
-    for (int k = 1; k < draft.count(); ++k) {
-        const int i = (k - 1) / 3 + 1;
-        const auto f = static_cast<ItemField>((k - 1) % 3);
-        world.setItem(n, s, i, f, draft.field(k));
-    }
-    return false;
-}
+    bool settlementName(MapLineReader &in, std::string &current) { return in.readText(current); }
+    bool levels(MapLineReader &in, std::int16_t &current) { return in.readInt16(current); }
 
-bool readBody(MapLineReader &in, World &world, std::uint8_t &gameNumber, int version)
-{
-    if (!in.readByte(gameNumber))
-        return false;
-    for (int y = 1; y <= kMapSize; ++y)
-        for (int x = 1; x <= kMapSize; ++x) {
-            Sector &sec = world.sector(x, y);
-            if (!in.readByte(sec.terrain) || !in.readEscapedText(sec.note) ||
-                !in.readByte(sec.settlementNumber) || !in.readText(sec.settlementName))
-                return false;
+    // On a failure the fields read so far are stored and the rest keep
+    // their previous contents.
+    bool shop(MapLineReader &in, int n, int s)
+    {
+        draft_.clear();
+        std::string_view text;
+        while (draft_.count() < PackedShop::kFieldCount && in.readTextView(text))
+            draft_.add(text);
+        if (draft_.count() == PackedShop::kFieldCount) {
+            world_.setShop(n, s, draft_);
+            return true;
         }
-    const ShopRange shops = shopRange(version);
-    JoinedShopTexts draft;
-    for (int n = 1; n <= kMaxSettlements; ++n) {
-        Settlement &st = world.settlement(n);
-        if (!in.readByte(st.inUse) || !in.readByte(st.x) || !in.readByte(st.y))
-            return false;
-        if (version >= 17 && !in.readText(st.cityState))
-            return false;
-        for (int s = shops.first; s <= shops.last; ++s)
-            if (!readShop(in, world, n, s, draft))
-                return false;
+        if (draft_.count() > 0)
+            world_.setShopName(n, s, draft_.field(0));
+        for (int k = 1; k < draft_.count(); ++k) {
+            const int i = (k - 1) / 3 + 1;
+            const auto f = static_cast<ItemField>((k - 1) % 3);
+            world_.setItem(n, s, i, f, draft_.field(k));
+        }
+        return false;
     }
-    if (version < 11)
-        return true;
-    for (int d = 1; d <= kMaxDungeons; ++d) {
-        Dungeon &dg = world.dungeon(d);
-        if (!in.readText(dg.name) || !in.readInt16(dg.levels))
-            return false;
-        for (int l = 1; l <= kLevelsPerDungeon; ++l)
-            if (!in.readEscapedText(dg.level[l].map) || !in.readEscapedText(dg.level[l].roomData))
-                return false;
-    }
-    return true;
-}
+
+private:
+    World &world_;
+    JoinedShopTexts draft_; // scratch space reused from shop to shop
+};
 
 void writeNumber(BufferedFileWriter &out, unsigned value)
 {
@@ -206,8 +173,10 @@ MapReadResult readMapFileWith(const std::string &path,
 
 MapReadResult readMapFile(const std::string &path, World &world, std::uint8_t &gameNumber)
 {
-    return readMapFileWith(
-        path, [&](MapLineReader &in, int version) { return readBody(in, world, gameNumber, version); });
+    return readMapFileWith(path, [&](MapLineReader &in, int version) {
+        LoadFields fields(world);
+        return walkMapFields(in, version, world, gameNumber, fields);
+    });
 }
 
 bool writeMapFile(const std::string &path, const World &world, std::uint8_t gameNumber, FileError &error)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/file_error.h"
+
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -12,16 +14,6 @@ class MapLineReader;
 inline constexpr const char *kMapFileHeader =
     "v017 - This is a saved map file for the Wayscribe. Do *not* edit this file yourself!";
 inline constexpr int kWrittenMapVersion = 17;
-
-// Where and why reading or writing a file failed, for the person to read.
-struct FileError {
-    std::string path;
-    long line = 0; // 0 when the failure has no line (cannot open, cannot write)
-    std::string reason;
-
-    // "<path>, line <n>: <reason>" or "<path>: <reason>"
-    std::string describe() const;
-};
 
 struct MapReadResult {
     bool ok = true;

@@ -1,5 +1,6 @@
 #include "storage/questor_import.h"
 
+#include "model/file_job.h"
 #include "model/platform.h"
 #include "model/program_state.h"
 #include "storage/questor_files.h"
@@ -35,13 +36,9 @@ void import_questor(World &world, ProgramState &state, Platform &platform)
     if (path.empty())
         return;
     state.document.mapChanged = 0;
-    platform.setStatus(kQuestorStatus);
-    platform.setWaitCursor(true);
-    state.document.fileBusy = 1;
+    FileJob job(state.document, platform, kQuestorStatus);
     const QuestorImportResult result = readQuestorMap(path, world, state, platform);
-    state.document.fileBusy = 0;
-    platform.setWaitCursor(false);
-    platform.setStatus("");
+    job.finish();
     if (!result.ok) {
         if (result.modelChanged) {
             // The model now mixes the map that was there with part of the

@@ -1,5 +1,6 @@
 #include "travel/route_finder.h"
 
+#include "model/file_job.h"
 #include "model/platform.h"
 #include "model/program_state.h"
 #include "model/text.h"
@@ -24,14 +25,12 @@ bool hasParentheses(const std::string &box)
 // characters as the position of the first ")" less one.
 bool numberPartEmpty(const std::string &box)
 {
-    const std::size_t open = box.find('(') + 1; // 1-based positions
-    const std::size_t close = box.find(')') + 1;
-    return leftChars(fromPosition(box, open + 1), close - 1).empty();
+    return leftChars(midChars(box, positionOf(box, "(") + 1), positionOf(box, ")") - 1).empty();
 }
 
 long long boxNumber(const std::string &box)
 {
-    return indexValue(fromPosition(box, box.find('(') + 2));
+    return indexValue(midChars(box, positionOf(box, "(") + 1));
 }
 
 // The purchase orders of a found route, from the start to the goal.
@@ -114,8 +113,7 @@ std::optional<std::string> findRoutesWith(RouteSearchFunction search, const Worl
     std::string text = "Please wait, calculating routes...\r\n";
     if (started)
         started(text);
-    platform.setWaitCursor(true);
-    state.document.fileBusy = 1;
+    FileJob job(state.document, platform);
 
     ClosestSettlement closest{ends.start, settlementPositions(world).distance(ends.start, ends.goal)};
     auto table = std::make_unique<JourneyTable>();
@@ -131,8 +129,6 @@ std::optional<std::string> findRoutesWith(RouteSearchFunction search, const Worl
     }
     text += result->found ? std::string("Finished.\r\n") : failureText(world, fromText, toText, closest);
 
-    state.document.fileBusy = 0;
-    platform.setWaitCursor(false);
     return text;
 }
 

@@ -25,7 +25,7 @@ std::string paintingReport(const std::string &terrain, const std::string &hide,
 class BatchImport : public ImportTest {
 protected:
     std::string folder() const { return dir.path().string() + "/"; }
-    BatchOutcome importFolder() { return importHtmlFolder(*world, state, platform, folder()); }
+    BatchOutcome importFolder() { return importHtmlFolder(*world, state, platform, folder(), writeOptions); }
 };
 
 TEST_F(BatchImport, HtmFilesFirstThenHtmlEachInNameOrder)
@@ -100,7 +100,7 @@ TEST_F(BatchImport, SettlementQuestionsAreAskedPerFile)
 
 TEST_F(BatchImport, EmptyFolderAndCancelledDialog)
 {
-    batchImportHtml(*world, state, platform);
+    batchImportHtml(*world, state, platform, writeOptions);
     ASSERT_EQ(platform.dialogs.size(), 1u);
     EXPECT_EQ(platform.dialogs[0].title, "Select folder with HTML turns...");
     EXPECT_EQ(platform.dialogs[0].filter, "HTML File (*.html)|*.htm*");
@@ -108,7 +108,7 @@ TEST_F(BatchImport, EmptyFolderAndCancelledDialog)
     EXPECT_EQ(platform.redraws, 0);
 
     platform.files = {dir.file("anything.htm")};
-    batchImportHtml(*world, state, platform);
+    batchImportHtml(*world, state, platform, writeOptions);
     EXPECT_EQ(state.document.mapChanged, 1);
     EXPECT_EQ(state.options.lastImp, folder());
     EXPECT_EQ(platform.redraws, 1);

@@ -1,6 +1,5 @@
 #include "import/html_import.h"
 #include "import_fixture.h"
-#include "storage/options_file.h"
 
 #include <random>
 
@@ -22,7 +21,7 @@ int knownSectors(const World &world)
 TEST_F(ImportCommand, CancelledDialogChangesNothing)
 {
     state.options.lastImp = "/turns/";
-    Import_HTML(*world, state, platform);
+    Import_HTML(*world, state, platform, writeOptions);
     ASSERT_EQ(platform.dialogs.size(), 1u);
     EXPECT_EQ(platform.dialogs[0].title, "Import HTML Turn...");
     EXPECT_EQ(platform.dialogs[0].filter, "HTML File (*.html)|*.htm*");
@@ -35,7 +34,7 @@ TEST_F(ImportCommand, ImportMovesTheViewOntoTheMapAndRemembersTheFolder)
 {
     state.optionsFilePath = dir.file("wayscribe.ini");
     platform.files = {reportPath("banner_town.htm")};
-    Import_HTML(*world, state, platform);
+    Import_HTML(*world, state, platform, writeOptions);
     EXPECT_EQ(platform.statuses, (std::vector<std::string>{"Please wait, importing HTML turn...", ""}));
     EXPECT_FALSE(platform.waitCursor);
     EXPECT_EQ(state.document.fileBusy, 0);
@@ -51,7 +50,7 @@ TEST_F(ImportCommand, ImportMovesTheViewOntoTheMapAndRemembersTheFolder)
 TEST_F(ImportCommand, ReportWithoutMapLeavesTheView)
 {
     state.view.viewLeft = 3;
-    importHtmlFile(*world, state, platform, reportPath("dungeon_level.htm"));
+    importHtmlFile(*world, state, platform, reportPath("dungeon_level.htm"), writeOptions);
     EXPECT_EQ(state.view.viewLeft, 3);
     EXPECT_EQ(platform.redraws, 0);
 }
@@ -59,7 +58,7 @@ TEST_F(ImportCommand, ReportWithoutMapLeavesTheView)
 TEST_F(ImportCommand, ReportOfAnotherGameKeepsOnlyWhatCameBefore)
 {
     state.document.gameNumber = 7;
-    importHtmlFile(*world, state, platform, reportPath("other_game.htm"));
+    importHtmlFile(*world, state, platform, reportPath("other_game.htm"), writeOptions);
     ASSERT_EQ(platform.messages.size(), 1u);
     EXPECT_EQ(platform.messages[0].text,
               "You tried importing from G9\r\nBut this map is for G7\r\nAborting Import.");
@@ -83,7 +82,8 @@ TEST_F(ImportCommand, ReportOfAnotherGameKeepsOnlyWhatCameBefore)
 
 TEST_F(ImportCommand, ReportCutOffKeepsWhatWasReadAndSaysWhere)
 {
-    EXPECT_EQ(importHtmlFile(*world, state, platform, reportPath("cut_map.htm")), ReportResult::Stopped);
+    EXPECT_EQ(importHtmlFile(*world, state, platform, reportPath("cut_map.htm"), writeOptions),
+              ReportResult::Stopped);
     ASSERT_EQ(platform.messages.size(), 1u);
     EXPECT_EQ(platform.messages[0].detail,
               reportPath("cut_map.htm") + ", line 22: the report ends inside the map table");

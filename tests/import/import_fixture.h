@@ -3,6 +3,7 @@
 #include "import/report_import.h"
 #include "model/program_state.h"
 #include "model/world.h"
+#include "storage/options_file.h"
 #include "support/report_writer.h"
 #include "support/test_support.h"
 

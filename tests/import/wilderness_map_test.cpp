@@ -82,7 +82,8 @@ TEST_F(WildernessMap, CellsPastTheWorldsEdgeAreSkippedAndTheViewStaysInside)
     shape.startY = 199;
     shape.map.assign(3, {"Forest", "Forest", "Forest", "Forest"});
     writeFile(dir.file("edge.htm"), reportText(shape));
-    EXPECT_EQ(importHtmlFile(*world, state, platform, dir.file("edge.htm")), ReportResult::Imported);
+    EXPECT_EQ(importHtmlFile(*world, state, platform, dir.file("edge.htm"), writeOptions),
+              ReportResult::Imported);
     expectTerrain(*world, {{198, 199, 6}, {200, 199, 6}, {198, 200, 6}, {200, 200, 6}, {197, 199, 1}});
     EXPECT_EQ(state.view.viewLeft, 160);
     EXPECT_EQ(state.view.viewTop, 170);
@@ -91,7 +92,7 @@ TEST_F(WildernessMap, CellsPastTheWorldsEdgeAreSkippedAndTheViewStaysInside)
     shape.startX = 1;
     shape.startY = 1;
     writeFile(dir.file("corner.htm"), reportText(shape));
-    importHtmlFile(*world, state, platform, dir.file("corner.htm"));
+    importHtmlFile(*world, state, platform, dir.file("corner.htm"), writeOptions);
     expectTerrain(*world, {{1, 1, 6}, {4, 3, 6}, {5, 1, 1}, {1, 4, 1}});
     EXPECT_EQ(state.view.viewLeft, 1);
     EXPECT_EQ(state.view.viewTop, 1);
