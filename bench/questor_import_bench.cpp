@@ -1,6 +1,6 @@
 // The QuestOR import of a full map (160 settlements with 15 shops of 20
 // items each, every tenth item special), against just reading its two files.
-#include "../tests/storage/questor_writer.h"
+#include "support/questor_writer.h"
 
 #include "model/program_state.h"
 #include "model/quiet_platform.h"

@@ -1,7 +1,7 @@
 // The route finder's search on a full journey network (160 settlements each
 // selling 110 journeys), against the literal sweep of all 10000 traveller
 // entries on every tick, for a reachable and an unreachable goal.
-#include "literal_route_search.h"
+#include "support/literal_route_search.h"
 
 #include "model/program_state.h"
 #include "model/quiet_platform.h"

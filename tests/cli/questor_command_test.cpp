@@ -1,7 +1,7 @@
 #include "cli/cli_runner.h"
 #include "model/world.h"
 #include "storage/map_file.h"
-#include "storage/questor_writer.h"
+#include "support/questor_writer.h"
 #include "support/test_support.h"
 
 #include <gtest/gtest.h>

@@ -184,19 +184,3 @@ TEST(WorldGenerator, FullTablesFillEveryTable)
             ASSERT_FALSE(dungeon.level[l].map.empty() || dungeon.level[l].roomData.empty()) << d << "/" << l;
     }
 }
-
-TEST(WorldGenerator, SavedWorldLoadsBackToTheSameFile)
-{
-    TempDir dir;
-    for (bool full : {false, true}) {
-        SCOPED_TRACE(full);
-        const Generated g = generate(21, full);
-        const std::string bytes = savedBytes(*g.world, g.gameNumber, dir, "first.om1");
-        auto loaded = std::make_unique<World>();
-        std::uint8_t gameNumber = 0;
-        const MapReadResult r = readMapFile(dir.file("first.om1"), *loaded, gameNumber);
-        ASSERT_TRUE(r.ok) << r.error.describe();
-        EXPECT_EQ(gameNumber, g.gameNumber);
-        EXPECT_EQ(bytes, savedBytes(*loaded, gameNumber, dir, "second.om1"));
-    }
-}

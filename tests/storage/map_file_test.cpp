@@ -1,4 +1,5 @@
 #include "model/world.h"
+#include "sample/world_generator.h"
 #include "storage/line_reader.h"
 #include "storage/map_file.h"
 #include "storage/map_file_versions.h"
@@ -178,4 +179,28 @@ TEST(MapFile, VersionComesFromCharactersTwoToFiveOfTheHeader)
                                                                                   {"", 0},
                                                                                   {"\"v01", 0}})
         EXPECT_EQ(mapFormatVersion(header), version) << header;
+}
+
+TEST(MapFile, GeneratedWorldsLoadBackToTheSameFile)
+{
+    TempDir dir;
+    for (bool full : {false, true}) {
+        SCOPED_TRACE(full);
+        auto world = std::make_unique<World>();
+        std::uint8_t gameNumber = 0;
+        GeneratorSettings settings;
+        settings.seed = 21;
+        settings.fullTables = full;
+        generateWorld(*world, gameNumber, settings);
+        FileError error;
+        ASSERT_TRUE(writeMapFile(dir.file("first.om1"), *world, gameNumber, error)) << error.describe();
+
+        auto loaded = std::make_unique<World>();
+        std::uint8_t loadedGame = 0;
+        const MapReadResult r = readMapFile(dir.file("first.om1"), *loaded, loadedGame);
+        ASSERT_TRUE(r.ok) << r.error.describe();
+        EXPECT_EQ(loadedGame, gameNumber);
+        ASSERT_TRUE(writeMapFile(dir.file("second.om1"), *loaded, loadedGame, error)) << error.describe();
+        EXPECT_EQ(readFile(dir.file("first.om1")), readFile(dir.file("second.om1")));
+    }
 }

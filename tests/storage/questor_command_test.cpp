@@ -1,6 +1,6 @@
 // File, Import QuestOR: the question, the dialog, the busy flag and status
 // line, and what the person is told when a file is broken.
-#include "storage/questor_writer.h"
+#include "support/questor_writer.h"
 
 #include "model/program_state.h"
 #include "model/world.h"

@@ -1,6 +1,6 @@
 // What a QuestOR map puts into the model: terrain, settlements, shops, items
 // and their names.
-#include "storage/questor_writer.h"
+#include "support/questor_writer.h"
 
 #include "model/program_state.h"
 #include "model/world.h"

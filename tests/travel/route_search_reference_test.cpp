@@ -1,6 +1,6 @@
 // The real search against the literal sweep over the whole traveller pool,
 // on random journey networks.
-#include "../../bench/literal_route_search.h"
+#include "support/literal_route_search.h"
 
 #include "model/program_state.h"
 #include "model/world.h"
