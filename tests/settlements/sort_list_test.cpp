@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include <string>
 #include <vector>
 
@@ -197,4 +199,37 @@ TEST(SortedList, AddedRowsArePlacedInOrderUntilSortingStops)
     list.table.clear();
     EXPECT_EQ(list.table.rowCount(), 0u);
     EXPECT_TRUE(list.table.sortOrder() == std::nullopt);
+}
+
+// The faithful simple reference: a stable sort that compares the keys of
+// the two cells at every comparison.
+TEST(SortList, MatchesAStableSortOfTheKeys)
+{
+    std::uint32_t seed = 12345;
+    auto next = [&seed](std::uint32_t n) {
+        seed = seed * 1664525u + 1013904223u;
+        return (seed >> 8) % n;
+    };
+    const std::string pieces[] = {
+        "0", "7", "-", ".", "e", " ", "a", "A", "\xE9", "Long shared beginning ", std::string(1, '\0')};
+    std::vector<std::string> texts;
+    for (int i = 0; i < 3000; ++i) {
+        std::string text;
+        for (std::uint32_t n = next(12); n > 0; --n)
+            text += pieces[next(std::size(pieces))];
+        texts.push_back(text);
+    }
+    for (SortKind kind : {SortKind::Text, SortKind::Number})
+        for (bool ascending : {true, false}) {
+            TextList list(texts, kind);
+            std::vector<std::string> expected = texts;
+            std::stable_sort(expected.begin(), expected.end(),
+                             [&](const std::string &a, const std::string &b) {
+                                 return ascending ? sortKey(a, kind) < sortKey(b, kind)
+                                                  : sortKey(b, kind) < sortKey(a, kind);
+                             });
+            Sort_List(list.table, 1, kind, ascending);
+            ASSERT_EQ(list.shown(), expected)
+                << "kind " << static_cast<int>(kind) << ", ascending " << ascending;
+        }
 }
