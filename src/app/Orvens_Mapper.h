@@ -2,33 +2,38 @@
 
 #include "app/app_paths.h"
 #include "app/qt_platform.h"
-#include "view/draw/minimap_drawing.h"
 #include "view/draw/tile_sheet.h"
 
 #include <QMainWindow>
 
-#include <map>
-#include <vector>
+#include <functional>
+#include <memory>
+#include <string>
 
-class QAction;
 class QLabel;
-class QLineEdit;
-class QPlainTextEdit;
-class QScrollBar;
-class QToolButton;
 class QToolBar;
 
 namespace wayscribe {
 
 class World;
 struct ProgramState;
+class ChangeHistory;
+class WorldChangeSignal;
+class CommandTable;
+class WindowHost;
+class TileSetMenu;
+class MapView;
 class MapPicture;
 class MinimapWidget;
+class SectorPanel;
+class MovementPanel;
 class TerrainPalette;
 class frmAbout;
+struct Minimap;
 
-// The main window: menu bar, toolbar, map picture with its scroll bars,
-// minimap, information panel and status line.
+// The main window: puts the map view, the side panels, the menus and the
+// toolbar together, runs the start-up and the exit, and shows what the
+// platform asks it to show.
 class Orvens_Mapper : public QMainWindow, public PlatformHost {
     Q_OBJECT
 public:
@@ -49,88 +54,48 @@ public:
     // Switches the tile set (the Graphics menu).
     void loadTileSet(const std::string &setName);
 
-    // Shows a secondary window; the main window's contents stay disabled
-    // until it closes. `redrawAfter` redraws the map when it closes.
-    void openSecondary(QWidget *window, bool redrawAfter = false);
+    // Every change to the world goes through here, so that it can be undone.
+    ChangeHistory &history() { return *history_; }
 
     const TileSheet &tileSheet() const { return sheet_; }
-    const Minimap &minimap() const { return minimap_; }
-    MapPicture *mapPicture() const { return Picture1; }
+    const Minimap &minimap() const;
+    MapPicture *mapPicture() const;
 
 protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
-    void buildMenus();
-    void buildToolbar();
     void buildCentre();
-    QAction *addMenuItem(QMenu *menu, const char *name, const QString &caption,
-                         void (Orvens_Mapper::*slot)());
-    QAction *addLaterItem(QMenu *menu, const char *name, const QString &caption);
-    void enableTileSetItems();
+    void buildCommands(); // main_window_commands.cpp
     bool loadPictures();
-    void layoutMapPicture();
-    void syncScrollBars();
-    void showSector(int x, int y);
-    void setContentsEnabled(bool enabled);
-    void centreOverWindow(QWidget *window) const;
+    void setMapLocked(bool locked);
     void updateTitle();
-
-    // Commands.
-    void cmdNew_Click();
-    void mnuFileNew_Click();
-    void cmdLoad_Click();
-    void mnuFileOpen_Click();
-    void cmdSave_Click();
-    void mnuFileSaveAs_Click();
-    void mnuFileMerge_Click();
-    void mnuFileImport_Click();
-    void mnuFileBatch_Click();
-    void mnuFileQuestor_Click();
-    void mnuFileOptions_Click();
-    void mnuFileExit_Click();
-    void mnuEditGame_Click();
-    void mnuEditLock_Click();
-    void chkLocked_Click();
-    void mnuEditWater_Click();
-    void mnuViewGoto_Click();
-    void mnuInformationPercent_Click();
-    void mnuInformationTravel_Click();
-    void mnuHelpAbout_Click();
-    void hscroll_Change(int value);
-    void vscroll_Change(int value);
-    void MiniMap_MouseDown(double x, double y);
-    void MiniMap_MouseMove(double x, double y);
-    void Picture1_MouseMove(int column, int row);
+    void showAbout();
+    void worldChanged();
+    void refreshUndoItems();
+    // The commands that change the world, as undo steps; the commands that
+    // replace the map (New, Open) empty the history.
+    std::function<void()> undoable(const char *name, std::function<void()> command);
+    std::function<void()> replacing(std::function<void()> command);
 
     World &world_;
     ProgramState &state_;
     Platform &platform_;
     AppPaths paths_;
     TileSheet sheet_;
-    Minimap minimap_;
+    std::unique_ptr<ChangeHistory> history_;
+    std::unique_ptr<WorldChangeSignal> changes_; // goes before the history it listens to
 
-    MapPicture *Picture1 = nullptr;
-    QScrollBar *hscroll = nullptr;
-    QScrollBar *vscroll = nullptr;
+    CommandTable *commands_ = nullptr;
+    WindowHost *host_ = nullptr;
+    TileSetMenu *tileSets_ = nullptr;
+    MapView *mapView_ = nullptr;
     MinimapWidget *MiniMap = nullptr;
+    SectorPanel *sectorPanel_ = nullptr;
+    MovementPanel *movementPanel_ = nullptr;
     TerrainPalette *palette_ = nullptr;
-    QLabel *txtStatus = nullptr;
-    QLineEdit *Xbox = nullptr;
-    QLineEdit *Ybox = nullptr;
-    QLineEdit *terbox = nullptr;
-    QLineEdit *citybox = nullptr;
-    QLineEdit *citynumbox = nullptr;
-    QLineEdit *txtCityState = nullptr;
-    QPlainTextEdit *txtNoteBox = nullptr;
-    QLineEdit *mpbox = nullptr;
-    QLineEdit *mpcbox = nullptr;
-    QLineEdit *txtTotalMPs = nullptr;
     QToolBar *toolbar_ = nullptr;
-    std::vector<QToolButton *> workingButtons_; // the toolbar buttons that have a command
-    QToolButton *chkLocked = nullptr;
-    QAction *mnuEditLock = nullptr;
-    std::map<std::string, QAction *> tileSetItems_;
+    QLabel *txtStatus = nullptr;
     frmAbout *about_ = nullptr;
 };
 

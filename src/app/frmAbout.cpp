@@ -10,7 +10,7 @@
 
 namespace wayscribe {
 
-frmAbout::frmAbout(const std::string &graphicsFolder, QWidget *mainWindow) : QWidget(mainWindow, Qt::Dialog)
+frmAbout::frmAbout(const std::string &graphicsFolder, QWidget *mainWindow) : QDialog(mainWindow)
 {
     setObjectName("frmAbout");
     setWindowTitle("About the Wayscribe");
@@ -58,7 +58,7 @@ void frmAbout::keyPressEvent(QKeyEvent *event)
     if (event->key() == Qt::Key_Escape || event->key() == Qt::Key_Return || event->key() == Qt::Key_Space)
         close();
     else
-        QWidget::keyPressEvent(event);
+        QDialog::keyPressEvent(event);
 }
 
 void frmAbout::closeEvent(QCloseEvent *event)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include <QDialog>
 
 #include <string>
 
@@ -10,7 +10,7 @@ namespace wayscribe {
 
 // The About window, which is also the start-up splash. A click closes it,
 // except while it tells that the last map is being loaded.
-class frmAbout : public QWidget {
+class frmAbout : public QDialog {
     Q_OBJECT
 public:
     frmAbout(const std::string &graphicsFolder, QWidget *mainWindow);

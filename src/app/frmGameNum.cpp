@@ -1,25 +1,23 @@
 #include "app/frmGameNum.h"
 
-#include "shared/ui/qt_text.h"
+#include "model/change_history.h"
 #include "model/program_state.h"
 #include "model/text.h"
+#include "shared/ui/qt_text.h"
 
-#include <QCloseEvent>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpressionValidator>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace wayscribe {
 
-frmGameNum::frmGameNum(ProgramState &state, QWidget *mainWindow)
-    : QWidget(mainWindow, Qt::Window), state_(state)
+frmGameNum::frmGameNum(ProgramState &state, ChangeHistory &history, QWidget *mainWindow)
+    : SecondaryWindow(mainWindow, "frmGameNum", "Change Game Number:", Escape::Closes), state_(state),
+      history_(history)
 {
-    setObjectName("frmGameNum");
-    setWindowTitle("Change Game Number:");
     auto *layout = new QVBoxLayout(this);
     auto *label = new QLabel("&Please input game # of this map:", this);
     txtGameNum = new QLineEdit(QString::number(state.document.gameNumber), this);
@@ -34,16 +32,16 @@ frmGameNum::frmGameNum(ProgramState &state, QWidget *mainWindow)
     buttons->button(QDialogButtonBox::Ok)->setObjectName("cmdOK");
     connect(buttons, &QDialogButtonBox::accepted, this, &QWidget::close);
     connect(txtGameNum, &QLineEdit::returnPressed, this, &QWidget::close);
-    new QShortcut(QKeySequence(Qt::Key_Escape), this, this, &QWidget::close);
     layout->addWidget(buttons);
     resize(320, sizeHint().height());
 }
 
-void frmGameNum::closeEvent(QCloseEvent *event)
+bool frmGameNum::mayClose()
 {
     const double value = roundHalfEven(textValue(trimBlanks(fromQString(txtGameNum->text()))));
-    state_.document.gameNumber = static_cast<std::uint8_t>(value >= 0 && value <= 255 ? value : 0);
-    event->accept();
+    const auto number = static_cast<std::uint8_t>(value >= 0 && value <= 255 ? value : 0);
+    history_.apply("Game Number", [this, number] { state_.document.gameNumber = number; });
+    return true;
 }
 
 } // namespace wayscribe

@@ -1,32 +1,21 @@
 #include "app/frmOptions.h"
 
 #include "model/program_state.h"
+#include "shared/ui/labelled_fields.h"
 #include "storage/options_file.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QPushButton>
-#include <QShortcut>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
 namespace wayscribe {
 
-namespace {
-QCheckBox *checkBox(const char *name, const QString &caption, bool checked, QWidget *parent)
-{
-    auto *box = new QCheckBox(caption, parent);
-    box->setObjectName(name);
-    box->setChecked(checked);
-    return box;
-}
-} // namespace
-
 frmOptions::frmOptions(ProgramState &state, Platform &platform, QWidget *mainWindow)
-    : QWidget(mainWindow, Qt::Window), state_(state), platform_(platform)
+    : SecondaryWindow(mainWindow, "frmOptions", "Wayscribe Options", Escape::Closes), state_(state),
+      platform_(platform)
 {
-    setObjectName("frmOptions");
-    setWindowTitle("Wayscribe Options");
     const Options &o = state.options;
     auto *layout = new QVBoxLayout(this);
     auto *tabs = new QTabWidget(this);
@@ -68,7 +57,6 @@ frmOptions::frmOptions(ProgramState &state, Platform &platform, QWidget *mainWin
     connect(buttons, &QDialogButtonBox::accepted, this, &frmOptions::cmdOK_Click);
     connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
     connect(chkImportShop, &QCheckBox::clicked, this, &frmOptions::chkImportShop_Click);
-    new QShortcut(QKeySequence(Qt::Key_Escape), this, this, &QWidget::close);
     resize(380, 240);
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include "shared/ui/secondary_window.h"
 
 class QCheckBox;
 
@@ -10,7 +10,7 @@ struct ProgramState;
 class Platform;
 
 // File, Options: the settings kept in the options file.
-class frmOptions : public QWidget {
+class frmOptions : public SecondaryWindow {
     Q_OBJECT
 public:
     frmOptions(ProgramState &state, Platform &platform, QWidget *mainWindow);

@@ -2,9 +2,9 @@
 #include "app/Orvens_Mapper.h"
 #include "app/app_paths.h"
 #include "app/qt_platform.h"
-#include "shared/ui/qt_text.h"
 #include "model/program_state.h"
 #include "model/world.h"
+#include "shared/ui/qt_text.h"
 
 #include <QApplication>
 #include <QFileInfo>

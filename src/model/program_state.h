@@ -6,6 +6,10 @@
 
 namespace wayscribe {
 
+// The tile set a new options file starts with, and the one the program falls
+// back to when the chosen set cannot be loaded.
+inline constexpr const char *kDefaultTileSet = "kjc_set1";
+
 // The player's preferences, kept in the options file between runs.
 struct Options {
     bool importMap = true;      // OptImportMap
@@ -20,7 +24,7 @@ struct Options {
     std::int16_t yTop = 0;      // OptYTop
     std::string lastImp;        // OptLastImp
     std::string lastFile;       // OptLastFile
-    std::string graphicsSetName = "kjc_set1";
+    std::string graphicsSetName = kDefaultTileSet;
 };
 
 // The map as a file: where it lives, which game it belongs to, whether it

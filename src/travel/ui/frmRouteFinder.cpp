@@ -1,10 +1,10 @@
 #include "travel/ui/frmRouteFinder.h"
 
-#include "shared/ui/qt_text.h"
 #include "model/text.h"
+#include "shared/ui/labelled_fields.h"
+#include "shared/ui/qt_text.h"
 #include "travel/route_finder.h"
 
-#include <QCloseEvent>
 #include <QComboBox>
 #include <QFontDatabase>
 #include <QGridLayout>
@@ -13,7 +13,6 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace wayscribe {
@@ -34,37 +33,27 @@ QComboBox *settlementBox(const char *name, const QStringList &items, QWidget *pa
     return box;
 }
 
-QLabel *label(const char *name, const char *caption, QWidget *buddy, QWidget *parent)
-{
-    auto *l = new QLabel(caption, parent);
-    l->setObjectName(name);
-    l->setBuddy(buddy);
-    return l;
-}
-
 } // namespace
 
 frmRouteFinder::frmRouteFinder(World &world, ProgramState &state, Platform &platform, QWidget *mainWindow)
-    : QWidget(mainWindow, Qt::Window), world_(world), state_(state), platform_(platform)
+    : SecondaryWindow(mainWindow, "frmRouteFinder", "Find Routes...", Escape::Closes), world_(world),
+      state_(state), platform_(platform)
 {
-    setObjectName("frmRouteFinder");
-    setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle("Find Routes...");
 
     QStringList items;
     for (const std::string &item : routeBoxItems(world_))
         items << toQString(item);
     cmbFrom = settlementBox("cmbFrom", items, this);
     cmbTo = settlementBox("cmbTo", items, this);
-    Label1 = label("Label1", "From:", cmbFrom, this);
-    Label2 = label("Label2", "To:", cmbTo, this);
+    Label1 = buddyLabel("Label1", "From:", cmbFrom, this);
+    Label2 = buddyLabel("Label2", "To:", cmbTo, this);
 
     txtRoutes = new QPlainTextEdit(this);
     txtRoutes->setObjectName("txtRoutes");
     txtRoutes->setReadOnly(true);
     txtRoutes->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     txtRoutes->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    Label5 = label("Label5", "Possible Routes:", txtRoutes, this);
+    Label5 = buddyLabel("Label5", "Possible Routes:", txtRoutes, this);
 
     cmdFind = new QPushButton("Find Routes", this);
     cmdFind->setObjectName("cmdFind");
@@ -99,7 +88,6 @@ frmRouteFinder::frmRouteFinder(World &world, ProgramState &state, Platform &plat
     connect(cmdExit, &QPushButton::clicked, this, &QWidget::close);
     connect(cmbFrom->lineEdit(), &QLineEdit::returnPressed, this, &frmRouteFinder::cmdFind_Click);
     connect(cmbTo->lineEdit(), &QLineEdit::returnPressed, this, &frmRouteFinder::cmdFind_Click);
-    new QShortcut(QKeySequence(Qt::Key_Escape), this, this, &QWidget::close);
 
     resize(560, 420);
 }
@@ -124,12 +112,6 @@ void frmRouteFinder::cmdFind_Click()
                    });
     if (routes)
         txtRoutes->setPlainText(toQString(replaceAll(*routes, "\r\n", "\n")));
-}
-
-void frmRouteFinder::closeEvent(QCloseEvent *event)
-{
-    event->accept();
-    emit closed();
 }
 
 } // namespace wayscribe

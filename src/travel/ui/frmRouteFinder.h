@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QWidget>
+#include "shared/ui/secondary_window.h"
 
 class QComboBox;
 class QLabel;
@@ -15,7 +15,7 @@ class Platform;
 
 // The travel agency: the cheapest and the shortest chain of journeys between
 // two settlements, written as purchase orders to copy into the game.
-class frmRouteFinder : public QWidget {
+class frmRouteFinder : public SecondaryWindow {
     Q_OBJECT
 public:
     frmRouteFinder(World &world, ProgramState &state, Platform &platform, QWidget *mainWindow);
@@ -23,12 +23,6 @@ public:
     // The settlement editor hands a settlement over as "Name (n)".
     void setFromText(const QString &text);
     void setToText(const QString &text);
-
-signals:
-    void closed();
-
-protected:
-    void closeEvent(QCloseEvent *event) override;
 
 private:
     void cmdFind_Click();

@@ -1,7 +1,7 @@
 #include "view/ui/terrain_palette.h"
 
-#include "shared/ui/qt_text.h"
 #include "model/terrain.h"
+#include "shared/ui/qt_text.h"
 #include "view/draw/tile_sheet.h"
 
 #include <QButtonGroup>

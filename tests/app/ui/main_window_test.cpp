@@ -1,5 +1,5 @@
 #include "app/Orvens_Mapper.h"
-#include "app/ui/window_platform.h"
+#include "app/ui/main_window_harness.h"
 #include "model/program_state.h"
 #include "model/world.h"
 #include "storage/map_file.h"
@@ -8,7 +8,9 @@
 #include "view/ui/minimap_widget.h"
 
 #include <QAction>
+#include <QDialog>
 #include <QMenuBar>
+#include <QPointer>
 #include <QScrollBar>
 #include <QTest>
 #include <QToolButton>
@@ -20,47 +22,6 @@ using namespace wayscribe;
 using namespace wayscribe::test;
 
 namespace {
-
-struct Harness {
-    TempDir dir;
-    std::unique_ptr<World> world = std::make_unique<World>();
-    ProgramState state;
-    WindowPlatform platform;
-    std::unique_ptr<Orvens_Mapper> window;
-
-    explicit Harness(const std::string &graphics = WAYSCRIBE_GRAPHICS) : graphicsFolder(graphics) {}
-    std::string graphicsFolder;
-
-    void start(const std::string &options = {}, const std::string &mapToOpen = {})
-    {
-        if (!options.empty())
-            writeFile(dir.file("wayscribe.ini"), options);
-        AppPaths paths{dir.path().string(), graphicsFolder, dir.file("wayscribe.ini")};
-        window = std::make_unique<Orvens_Mapper>(*world, state, platform, paths);
-        platform.host = window.get();
-        window->resize(1000, 700);
-        window->show();
-        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-        QVERIFY(window->startUp(mapToOpen));
-    }
-    std::string saveMap(const std::string &name, int terrainAt11)
-    {
-        World w;
-        w.sector(1, 1).terrain = static_cast<std::uint8_t>(terrainAt11);
-        FileError e;
-        writeMapFile(dir.file(name), w, 3, e);
-        return dir.file(name);
-    }
-    template <class T> T *find(const char *name) { return window->findChild<T *>(name); }
-    QImage tileAt(int column, int row)
-    {
-        return window->mapPicture()->backBuffer().copy((column - 1) * 16, (row - 1) * 16, 16, 16);
-    }
-    QImage sheetEntry(int entry)
-    {
-        return window->tileSheet().sheet().copy(QRect(TileSheet::entryPosition(entry), QSize(16, 16)));
-    }
-};
 
 bool hasDarkPixel(const QImage &image, QRect area)
 {
@@ -291,24 +252,38 @@ private slots:
         QCOMPARE(h.tileAt(3, 2), h.sheetEntry(16));
     }
 
-    void theTravelAgencyDisablesTheMainWindowWhileOpen()
+    void everySecondaryWindowIsADialogThatDisablesTheMainWindowWhileOpen()
     {
         Harness h;
         h.start();
+        auto contentsEnabled = [&h] {
+            return h.window->centralWidget()->isEnabled() && h.window->menuBar()->isEnabled() &&
+                   h.find<QToolButton>("cmdNew")->isEnabled();
+        };
+        // The travel agency does not open while a file job runs.
         h.state.document.fileBusy = 1;
         h.find<QAction>("mnuInformationTravel")->trigger();
-        QVERIFY(h.window->centralWidget()->isEnabled());
+        QVERIFY(!h.window->findChild<QDialog *>("frmRouteFinder"));
         h.state.document.fileBusy = 0;
-        h.find<QAction>("mnuInformationTravel")->trigger();
-        QWidget *finder = h.window->findChild<QWidget *>("frmRouteFinder");
-        QVERIFY(finder);
-        QVERIFY(finder->isVisible());
-        QVERIFY(!h.window->centralWidget()->isEnabled());
-        QVERIFY(!h.window->menuBar()->isEnabled());
-        QVERIFY(finder->isEnabled());
-        finder->close();
-        QTRY_VERIFY(h.window->centralWidget()->isEnabled());
-        QVERIFY(h.window->menuBar()->isEnabled());
+
+        for (const auto &[item, form] :
+             {std::pair{"mnuFileOptions", "frmOptions"}, std::pair{"mnuEditGame", "frmGameNum"},
+              std::pair{"mnuInformationTravel", "frmRouteFinder"}}) {
+            QVERIFY(contentsEnabled());
+            h.find<QAction>(item)->trigger();
+            QPointer<QDialog> window = h.window->findChild<QDialog *>(form);
+            QVERIFY2(window, form);
+            QVERIFY(window->isVisible());
+            QVERIFY(!window->isModal());
+            QVERIFY(window->isEnabled());
+            QVERIFY2(!contentsEnabled(), form);
+            QTest::keyClick(window, Qt::Key_Escape);
+            QTRY_VERIFY2(window.isNull(), form); // deleted on close
+            QVERIFY2(contentsEnabled(), form);
+            // Buttons of later versions stay disabled afterwards.
+            QVERIFY(!h.find<QToolButton>("cmdGotoNote")->isEnabled());
+        }
+        QVERIFY(qobject_cast<QDialog *>(h.window->findChild<QWidget *>("frmAbout")));
     }
 
     void notesShowDungeonIconsOnlyWithTheExtraOption()

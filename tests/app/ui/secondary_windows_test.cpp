@@ -1,14 +1,19 @@
 #include "app/frmAbout.h"
 #include "app/frmGameNum.h"
 #include "app/frmOptions.h"
+#include "model/change_history.h"
 #include "model/program_state.h"
+#include "model/world.h"
 #include "support/test_support.h"
 
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
+
+#include <memory>
 
 using namespace wayscribe;
 using namespace wayscribe::test;
@@ -57,22 +62,32 @@ private slots:
         QVERIFY(readFile(state.optionsFilePath).empty());
     }
 
-    void gameNumberTakesEffectOnClose()
+    void gameNumberTakesEffectOnCloseAsAnUndoStep()
     {
         ProgramState state;
+        auto world = std::make_unique<World>();
+        ChangeHistory history(*world, state.document);
         state.document.gameNumber = 12;
-        frmGameNum window(state, nullptr);
-        window.show();
-        auto *box = window.findChild<QLineEdit *>("txtGameNum");
+        auto *window = new frmGameNum(state, history, nullptr);
+        window->show();
+        auto *box = window->findChild<QLineEdit *>("txtGameNum");
         QCOMPARE(box->text(), QString("12"));
         box->setText("");
         QTest::keyClicks(box, "300"); // only 0..255 can be typed
         QCOMPARE(box->text(), QString("30"));
-        window.close();
+        QPointer<frmGameNum> alive(window);
+        window->close();
         QCOMPARE(state.document.gameNumber, 30);
-        window.show();
-        box->setText("");
-        window.close();
+        QTRY_VERIFY(alive.isNull());
+        QCOMPARE(history.undoName(), std::string("Game Number"));
+        history.undo();
+        QCOMPARE(state.document.gameNumber, 12);
+
+        // An emptied box means game 0; Escape closes the same way.
+        window = new frmGameNum(state, history, nullptr);
+        window->show();
+        window->findChild<QLineEdit *>("txtGameNum")->setText("");
+        QTest::keyClick(window, Qt::Key_Escape);
         QCOMPARE(state.document.gameNumber, 0);
     }
 

@@ -1,0 +1,157 @@
+// The main window's commands: every menu item and toolbar button of the
+// program, in the order the menus show them. Items whose windows come with
+// later versions are present but disabled.
+#include "app/Orvens_Mapper.h"
+
+#include "app/command_table.h"
+#include "app/frmGameNum.h"
+#include "app/frmOptions.h"
+#include "app/tile_set_menu.h"
+#include "app/window_host.h"
+#include "import/batch_import.h"
+#include "import/html_import.h"
+#include "model/change_history.h"
+#include "model/program_state.h"
+#include "storage/map_commands.h"
+#include "storage/options_file.h"
+#include "storage/questor_import.h"
+#include "travel/ui/frmRouteFinder.h"
+#include "view/map_tools.h"
+#include "view/view_navigation.h"
+
+#include <QAction>
+#include <QMenuBar>
+#include <QToolBar>
+
+namespace wayscribe {
+
+void Orvens_Mapper::buildCommands()
+{
+    commands_ = new CommandTable([this] { return state_.document.fileBusy != 0; }, this);
+    World &w = world_;
+    ProgramState &s = state_;
+    Platform &p = platform_;
+    const auto busyGuarded = Command::NotWhileBusy;
+    // Save asks for a file only while the map has none: a name without a
+    // folder is no file of its own.
+    const auto save = [this] {
+        const std::string &name = state_.document.mapFileName;
+        Save_Map(world_, state_, platform_, name.find_first_of("/\\") == std::string::npos);
+        updateTitle();
+    };
+    const auto saveAs = [this] {
+        Save_Map(world_, state_, platform_, true);
+        updateTitle();
+    };
+    // The lock's two controls: each shows the new state once it is clicked.
+    const auto lockFrom = [this](const char *control) {
+        return [this, control] { setMapLocked(commands_->action(control)->isChecked()); };
+    };
+
+    QMenuBar *bar = menuBar();
+    commands_->addMenu(
+        bar, "mnuFile", "File",
+        {
+            {"mnuFileNew", "&New", replacing([&w, &s, &p] { newMapCommand(w, s, p); }), busyGuarded},
+            {"mnuFileImport", "&Import HTML",
+             undoable("Import HTML", [&w, &s, &p] { Import_HTML(w, s, p, writeOptions); }), busyGuarded},
+            {"mnuFileBatch", "&Batch Import HTML",
+             undoable("Batch Import HTML", [&w, &s, &p] { batchImportHtml(w, s, p, writeOptions); }),
+             busyGuarded},
+            {"mnuFileQuestor", "Import &QuestOR",
+             undoable("Import QuestOR", [&w, &s, &p] { importQuestorCommand(w, s, p); }), busyGuarded},
+            Command::separator("mnuFileSep1"),
+            {"mnuFileOpen", "&Open", replacing([&w, &s, &p] { loadMapCommand(w, s, p, true); }), busyGuarded},
+            {"mnuFileSave", "&Save", save, busyGuarded},
+            {"mnuFileSaveAs", "Save &As", saveAs, busyGuarded},
+            {"mnuFileMerge", "&Merge Map", undoable("Merge Map", [&w, &s, &p] { mergeMapCommand(w, s, p); })},
+            Command::separator("mnuFileSep2"),
+            {"mnuFileOptions", "O&ptions",
+             [this] { host_->open(new frmOptions(state_, platform_, this), true); }},
+            {"mnuFileExit", "E&xit", [this] { close(); }},
+        });
+    commands_->addMenu(
+        bar, "mnuEdit", "Edit",
+        {
+            {"mnuEditGame", "&Game Number", [this] { host_->open(new frmGameNum(state_, *history_, this)); }},
+            {"mnuEditLock", "&Lock Map", lockFrom("mnuEditLock"), Command::Always, true},
+            {"mnuEditWater", "&Unknowns to Water",
+             undoable("Unknowns to Water", [&w, &s, &p] { unknownsToWaterCommand(w, s, p); })},
+            Command::separator("mnuEditSep1"),
+            {"mnuArabians", "Use &Arabians", {}},
+            {"mnuMules", "Use &Mules", {}},
+            {"mnuDrafts", "Use &Drafts", {}},
+            {"mnuFlying", "Use &Flying", {}},
+            Command::separator("mnuEditSep2"),
+            {"mnuEditMovement", "Movement &Counter", {}},
+            Command::separator("mnuEditSep3"),
+            {"mnuEditUndo", "&Undo", [this] { history_->undo(); }, busyGuarded, false, QKeySequence::Undo},
+            {"mnuEditRedo", "&Redo", [this] { history_->redo(); }, busyGuarded, false,
+             QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)},
+        });
+    commands_->addMenu(bar, "mnuView", "View",
+                       {
+                           {"mnuGotoCity", "Goto &City", {}},
+                           {"mnuViewNote", "Goto &Note", {}},
+                           {"mnuViewGoto", "&Goto X Y", [&s, &p] { gotoXYCommand(s.view, p); }},
+                       });
+    commands_->addMenu(
+        bar, "mnuInformation", "Information",
+        {
+            {"mnuInformationPercent", "&Map Statistics", [&w, &p] { mapStatisticsCommand(w, p); }},
+            {"mnuInformationObjects", "&Objects Database", {}},
+            {"mnuInformationNotes", "&Notes Database", {}},
+            {"mnuInfoSett", "&Settlement Database", {}},
+            {"mnuInfoDungeon", "&Dungeon Database", {}},
+            Command::separator("mnuInformationLine"),
+            {"mnuInformationTravel", "&Travel Agency",
+             [this] { host_->open(new frmRouteFinder(world_, state_, platform_, this)); }, busyGuarded},
+        });
+    tileSets_ = new TileSetMenu(bar, this);
+    connect(tileSets_, &TileSetMenu::chosen, this, &Orvens_Mapper::loadTileSet);
+    commands_->addMenu(bar, "mnuHelp", "Help",
+                       {
+                           {"mnuHelpAbout", "&About Wayscribe", [this] { showAbout(); }},
+                       });
+
+    toolbar_ = addToolBar("Tools");
+    toolbar_->setObjectName("toolbar");
+    toolbar_->setMovable(false);
+    toolbar_->setIconSize(QSize(24, 24));
+    toolbar_->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    // The New Map and Load Map buttons do not test the busy flag; Save does.
+    commands_->fillToolbar(
+        toolbar_,
+        {
+            {.name = "cmdNew",
+             .caption = "New Map",
+             .run = replacing([&w, &s, &p] { newMapCommand(w, s, p); }),
+             .picture = "new.gif"},
+            {.name = "cmdLoad",
+             .caption = "Load Map",
+             .run = replacing([&w, &s, &p] { loadMapCommand(w, s, p, false); }),
+             .picture = "load.gif"},
+            {.name = "cmdSave",
+             .caption = "Save Map",
+             .run = save,
+             .guard = busyGuarded,
+             .picture = "save.gif"},
+            {.name = "chkLocked",
+             .caption = "Map Lock",
+             .run = lockFrom("chkLocked"),
+             .checkable = true,
+             .picture = "lock.gif"},
+            {.name = "chkMovement",
+             .caption = "Movement point counter",
+             .checkable = true,
+             .picture = "movement.gif"},
+            {.name = "cmdGotoxy",
+             .caption = "Go to co-ords",
+             .run = [&s, &p] { gotoXYCommand(s.view, p); },
+             .picture = "gotoxy.gif"},
+            {.name = "cmdGotoNote", .caption = "Go to note", .picture = "gotonote.gif"},
+            {.name = "cmdGotoSettle", .caption = "Go to settlement", .picture = "gotosettlement.gif"},
+        });
+}
+
+} // namespace wayscribe

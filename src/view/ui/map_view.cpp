@@ -1,0 +1,123 @@
+#include "view/ui/map_view.h"
+
+#include "model/program_state.h"
+#include "model/world.h"
+#include "view/draw/map_drawing.h"
+#include "view/minimap_geometry.h"
+#include "view/ui/map_picture.h"
+#include "view/view_navigation.h"
+
+#include <QGridLayout>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace wayscribe {
+
+MapView::MapView(const World &world, ProgramState &state, const TileSheet &sheet, QWidget *parent)
+    : QWidget(parent), world_(world), state_(state), sheet_(sheet)
+{
+    setObjectName("mapView");
+    auto *grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    grid->setSpacing(0);
+    Picture1 = new MapPicture(this);
+    hscroll = new QScrollBar(Qt::Horizontal, this);
+    hscroll->setObjectName("hscroll");
+    hscroll->setAccessibleName("Scroll the map east and west");
+    vscroll = new QScrollBar(Qt::Vertical, this);
+    vscroll->setObjectName("vscroll");
+    vscroll->setAccessibleName("Scroll the map north and south");
+    grid->addWidget(Picture1, 0, 0);
+    grid->addWidget(vscroll, 0, 1);
+    grid->addWidget(hscroll, 1, 0);
+
+    connect(Picture1, &MapPicture::resized, this, &MapView::measure);
+    connect(Picture1, &MapPicture::hovered, this, &MapView::Picture1_MouseMove);
+    connect(Picture1, &MapPicture::scrollRequested, this, [this](int dx, int dy, bool byHalfViews) {
+        // Moving the scroll bars runs their own change handlers.
+        hscroll->setValue(hscroll->value() + dx * (byHalfViews ? hscroll->pageStep() : 1));
+        vscroll->setValue(vscroll->value() + dy * (byHalfViews ? vscroll->pageStep() : 1));
+    });
+    connect(hscroll, &QScrollBar::valueChanged, this, &MapView::hscroll_Change);
+    connect(vscroll, &QScrollBar::valueChanged, this, &MapView::vscroll_Change);
+}
+
+void MapView::measure()
+{
+    if (window()->isMinimized())
+        return;
+    ViewState &view = state_.view;
+    view.viewCols = static_cast<std::int16_t>(std::min(Picture1->width(), 32767) / 16);
+    view.viewRows = static_cast<std::int16_t>(std::min(Picture1->height(), 32767) / 16);
+    // Growing the window pulls the origin back so the view never runs past
+    // the world's last sector.
+    clampView(view);
+    Picture1->clearBuffer();
+    redraw();
+}
+
+void MapView::syncScrollBars()
+{
+    ViewState &view = state_.view;
+    view.scrollBusy = 1;
+    hscroll->setMaximum(largestViewOrigin(view.viewCols));
+    vscroll->setMaximum(largestViewOrigin(view.viewRows));
+    hscroll->setPageStep(std::max(1, view.viewCols / 2));
+    vscroll->setPageStep(std::max(1, view.viewRows / 2));
+    vscroll->setValue(view.viewTop);
+    hscroll->setValue(view.viewLeft);
+    view.scrollBusy = 0;
+}
+
+void MapView::redraw()
+{
+    syncScrollBars();
+    state_.view.fullRedraw = 1;
+    if (Refresh_Map(Picture1->backBuffer(), minimap_, world_, state_, sheet_)) {
+        Picture1->update();
+        emit minimapRedrawn(minimap_.image);
+    }
+    state_.view.fullRedraw = 0;
+}
+
+void MapView::centreOnMinimapPoint(double x, double y)
+{
+    if (state_.document.fileBusy)
+        return;
+    moveViewToMinimapPoint(state_.view, x, y);
+    redraw();
+}
+
+void MapView::Picture1_MouseMove(int column, int row)
+{
+    const ViewState &view = state_.view;
+    const int x = view.viewLeft + column;
+    const int y = view.viewTop + row;
+    if (column < 1 || row < 1 || column > view.viewCols || row > view.viewRows || !isSectorIndex(x) ||
+        !isSectorIndex(y))
+        return;
+    emit sectorHovered(x, y);
+}
+
+void MapView::hscroll_Change(int value)
+{
+    ViewState &view = state_.view;
+    if (view.scrollBusy)
+        return;
+    view.viewLeft = static_cast<std::int16_t>(std::min(value, largestViewOrigin(view.viewCols)));
+    if (!state_.document.fileBusy)
+        redraw();
+}
+
+void MapView::vscroll_Change(int value)
+{
+    ViewState &view = state_.view;
+    if (view.scrollBusy)
+        return;
+    view.viewTop = static_cast<std::int16_t>(std::min(value, largestViewOrigin(view.viewRows)));
+    if (!state_.document.fileBusy)
+        redraw();
+}
+
+} // namespace wayscribe

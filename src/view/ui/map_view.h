@@ -1,0 +1,61 @@
+#pragma once
+
+#include "view/draw/minimap_drawing.h"
+
+#include <QWidget>
+
+class QScrollBar;
+
+namespace wayscribe {
+
+class World;
+struct ProgramState;
+class TileSheet;
+class MapPicture;
+
+// The map picture `Picture1` with its scroll bars `hscroll` and `vscroll`:
+// measures how many sectors fit, keeps the scroll bars and the view origin
+// in step, and redraws the map and the minimap picture.
+class MapView : public QWidget {
+    Q_OBJECT
+public:
+    MapView(const World &world, ProgramState &state, const TileSheet &sheet, QWidget *parent);
+
+    MapPicture *picture() const { return Picture1; }
+    const Minimap &minimap() const { return minimap_; }
+
+    // The redraw protocol: the scroll bars follow the view origin (with
+    // ScrollBusy set meanwhile), then FullRedraw := 1, Refresh_Map,
+    // FullRedraw := 0.
+    void redraw();
+
+    // Measures how many whole sectors fit the picture, keeps the origin
+    // inside the world, and redraws.
+    void measure();
+
+    // A minimap click: the point goes to the middle of the view. Ignored
+    // while a file job runs.
+    void centreOnMinimapPoint(double x, double y);
+
+signals:
+    // The sector under the pointer.
+    void sectorHovered(int x, int y);
+    // The minimap picture was drawn anew.
+    void minimapRedrawn(const QImage &image);
+
+private:
+    void syncScrollBars();
+    void hscroll_Change(int value);
+    void vscroll_Change(int value);
+    void Picture1_MouseMove(int column, int row);
+
+    const World &world_;
+    ProgramState &state_;
+    const TileSheet &sheet_;
+    Minimap minimap_;
+    MapPicture *Picture1 = nullptr;
+    QScrollBar *hscroll = nullptr;
+    QScrollBar *vscroll = nullptr;
+};
+
+} // namespace wayscribe
