@@ -48,6 +48,7 @@ Orvens_Mapper::Orvens_Mapper(World &world, ProgramState &state, Platform &platfo
     buildCentre();
     host_ = new WindowHost(this, [this] { redrawMap(); });
     buildCommands();
+    connect(changes_.get(), &WorldChangeSignal::worldChanged, mapView_, &MapView::worldChanged);
     connect(changes_.get(), &WorldChangeSignal::worldChanged, this, &Orvens_Mapper::worldChanged);
     refreshUndoItems();
     resize(1180, 760);
@@ -142,7 +143,7 @@ void Orvens_Mapper::refreshUndoItems()
 void Orvens_Mapper::worldChanged()
 {
     refreshUndoItems();
-    redrawMap();
+    updateTitle();
 }
 
 void Orvens_Mapper::showStatus(const std::string &text)
