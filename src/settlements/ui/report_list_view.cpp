@@ -43,6 +43,7 @@ ReportListView::ReportListView(ReportTable table, const QString &accessibleName,
     header->setSectionsClickable(true);
     header->setHighlightSections(false);
     header->setStretchLastSection(false);
+    // No order arrow: in the narrow number columns it would hide the title.
     header->setSortIndicatorShown(false);
     for (int c = 1; c <= model_->table().columnCount(); ++c)
         header->resizeSection(c - 1, widthInPixels(model_->table().column(c).width));
@@ -70,13 +71,8 @@ void ReportListView::headerClicked(int section)
     const bool sorted = model_->sortByHeader(section);
     setUpdatesEnabled(true);
     QGuiApplication::restoreOverrideCursor();
-    if (sorted) {
-        const bool ascending = model_->table().directionFlag(section + 1);
-        horizontalHeader()->setSortIndicatorShown(true);
-        horizontalHeader()->setSortIndicator(section, ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
-        if (const QModelIndex current = currentIndex(); current.isValid())
-            scrollTo(current);
-    }
+    if (const QModelIndex current = currentIndex(); sorted && current.isValid())
+        scrollTo(current);
 }
 
 std::optional<std::size_t> ReportListView::selectedRow() const
