@@ -48,7 +48,6 @@ Orvens_Mapper::Orvens_Mapper(World &world, ProgramState &state, Platform &platfo
     buildCentre();
     host_ = new WindowHost(this, [this] { redrawMap(); });
     buildCommands();
-    connect(changes_.get(), &WorldChangeSignal::worldChanged, mapView_, &MapView::worldChanged);
     connect(changes_.get(), &WorldChangeSignal::worldChanged, this, &Orvens_Mapper::worldChanged);
     refreshUndoItems();
     resize(1180, 760);

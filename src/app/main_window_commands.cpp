@@ -32,6 +32,9 @@ void Orvens_Mapper::buildCommands()
     ProgramState &s = state_;
     Platform &p = platform_;
     const auto busyGuarded = Command::NotWhileBusy;
+    // Undo and redo redraw the map themselves: the edits draw what they
+    // change as they always have, and some (removing a note from its list)
+    // leave the map as it is, so the map does not follow every change.
     // Save asks for a file only while the map has none: a name without a
     // folder is no file of its own.
     const auto save = [this] {
@@ -85,9 +88,18 @@ void Orvens_Mapper::buildCommands()
             Command::separator("mnuEditSep2"),
             {"mnuEditMovement", "Movement &Counter", {}},
             Command::separator("mnuEditSep3"),
-            {"mnuEditUndo", "&Undo", [this] { history_->undo(); }, busyGuarded, false, QKeySequence::Undo},
-            {"mnuEditRedo", "&Redo", [this] { history_->redo(); }, busyGuarded, false,
-             QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)},
+            {"mnuEditUndo", "&Undo",
+             [this] {
+                 history_->undo();
+                 redrawMap();
+             },
+             busyGuarded, false, QKeySequence::Undo},
+            {"mnuEditRedo", "&Redo",
+             [this] {
+                 history_->redo();
+                 redrawMap();
+             },
+             busyGuarded, false, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)},
         });
     commands_->addMenu(bar, "mnuView", "View",
                        {

@@ -1,6 +1,5 @@
 #include "view/ui/map_view.h"
 
-#include "model/change_history.h"
 #include "model/program_state.h"
 #include "model/world.h"
 #include "view/draw/map_drawing.h"
@@ -80,11 +79,6 @@ void MapView::redraw()
         emit minimapRedrawn(minimap_.image);
     }
     state_.view.fullRedraw = 0;
-}
-
-void MapView::worldChanged(const WorldChange &)
-{
-    redraw();
 }
 
 void MapView::centreOnMinimapPoint(double x, double y)

@@ -10,7 +10,6 @@ namespace wayscribe {
 
 class World;
 struct ProgramState;
-struct WorldChange;
 class TileSheet;
 class MapPicture;
 
@@ -33,9 +32,6 @@ public:
     // Measures how many whole sectors fit the picture, keeps the origin
     // inside the world, and redraws.
     void measure();
-
-    // Follows every change to the world.
-    void worldChanged(const WorldChange &change);
 
     // A minimap click: the point goes to the middle of the view. Ignored
     // while a file job runs.
