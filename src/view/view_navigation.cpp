@@ -1,6 +1,7 @@
 #include "view/view_navigation.h"
 
 #include "model/platform.h"
+#include "model/program_state.h"
 #include "model/text.h"
 #include "model/world.h"
 

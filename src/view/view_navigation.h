@@ -1,11 +1,10 @@
 #pragma once
 
-#include "model/program_state.h"
-
 #include <cstdint>
 
 namespace wayscribe {
 
+struct ViewState;
 class Platform;
 
 // The largest scroll origin (ViewLeft for a width, ViewTop for a height)
@@ -29,15 +28,5 @@ void centreView(ViewState &view, Platform &platform, int x, int y);
 // View, Goto X Y: asks for "X, Y" and centres the view there. An answer
 // without a comma does nothing; a part that is not a number counts as 0.
 void gotoXYCommand(ViewState &view, Platform &platform);
-
-// The main window's callers still hand over the whole program state.
-inline void clampView(ProgramState &state)
-{
-    clampView(state.view);
-}
-inline void gotoXYCommand(ProgramState &state, Platform &platform)
-{
-    gotoXYCommand(state.view, platform);
-}
 
 } // namespace wayscribe
