@@ -1,5 +1,6 @@
 #include "view/minimap_geometry.h"
 
+#include "model/program_state.h"
 #include "model/text.h"
 #include "view/view_navigation.h"
 

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "model/program_state.h"
-
 namespace wayscribe {
+
+struct ProgramState;
+struct ViewState;
 
 // The minimap is 100 x 100 pixels; pixel (p, q) stands for the 2 x 2 sectors
 // X = 2p + 1 .. 2p + 2, Y = 2q + 1 .. 2q + 2.
@@ -30,11 +31,5 @@ MinimapViewRect minimapViewRect(const ProgramState &state);
 // point in the middle of the view: sets ViewLeft and ViewTop, kept inside the
 // world. The caller checks FileBusy, sets the scroll bars and redraws.
 void moveViewToMinimapPoint(ViewState &view, double x, double y);
-
-// The main window's callers still hand over the whole program state.
-inline void moveViewToMinimapPoint(ProgramState &state, double x, double y)
-{
-    moveViewToMinimapPoint(state.view, x, y);
-}
 
 } // namespace wayscribe
