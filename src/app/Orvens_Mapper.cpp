@@ -5,6 +5,7 @@
 #include "app/tile_set_menu.h"
 #include "app/window_host.h"
 #include "model/change_history.h"
+#include "model/file_paths.h"
 #include "model/program_state.h"
 #include "model/world.h"
 #include "shared/ui/qt_text.h"

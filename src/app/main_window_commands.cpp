@@ -17,6 +17,7 @@
 #include "storage/questor_import.h"
 #include "travel/ui/frmRouteFinder.h"
 #include "view/map_tools.h"
+#include "view/ui/frmGotoCity.h"
 #include "view/view_navigation.h"
 
 #include <QAction>
@@ -32,6 +33,9 @@ void Orvens_Mapper::buildCommands()
     ProgramState &s = state_;
     Platform &p = platform_;
     const auto busyGuarded = Command::NotWhileBusy;
+    const auto openSettlementFinder = [this] {
+        host_->open(new frmGotoCity(world_, state_.view, platform_, this));
+    };
     // Undo and redo redraw the map themselves: the edits draw what they
     // change as they always have, and some (removing a note from its list)
     // leave the map as it is, so the map does not follow every change.
@@ -103,7 +107,7 @@ void Orvens_Mapper::buildCommands()
         });
     commands_->addMenu(bar, "mnuView", "View",
                        {
-                           {"mnuGotoCity", "Goto &City", {}},
+                           {"mnuGotoCity", "Goto &City", openSettlementFinder, busyGuarded},
                            {"mnuViewNote", "Goto &Note", {}},
                            {"mnuViewGoto", "&Goto X Y", [&s, &p] { gotoXYCommand(s.view, p); }},
                        });
@@ -132,38 +136,41 @@ void Orvens_Mapper::buildCommands()
     toolbar_->setIconSize(QSize(24, 24));
     toolbar_->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     // The New Map and Load Map buttons do not test the busy flag; Save does.
-    commands_->fillToolbar(
-        toolbar_,
-        {
-            {.name = "cmdNew",
-             .caption = "New Map",
-             .run = replacing([&w, &s, &p] { newMapCommand(w, s, p); }),
-             .picture = "new.gif"},
-            {.name = "cmdLoad",
-             .caption = "Load Map",
-             .run = replacing([&w, &s, &p] { loadMapCommand(w, s, p, false); }),
-             .picture = "load.gif"},
-            {.name = "cmdSave",
-             .caption = "Save Map",
-             .run = save,
-             .guard = busyGuarded,
-             .picture = "save.gif"},
-            {.name = "chkLocked",
-             .caption = "Map Lock",
-             .run = lockFrom("chkLocked"),
-             .checkable = true,
-             .picture = "lock.gif"},
-            {.name = "chkMovement",
-             .caption = "Movement point counter",
-             .checkable = true,
-             .picture = "movement.gif"},
-            {.name = "cmdGotoxy",
-             .caption = "Go to co-ords",
-             .run = [&s, &p] { gotoXYCommand(s.view, p); },
-             .picture = "gotoxy.gif"},
-            {.name = "cmdGotoNote", .caption = "Go to note", .picture = "gotonote.gif"},
-            {.name = "cmdGotoSettle", .caption = "Go to settlement", .picture = "gotosettlement.gif"},
-        });
+    commands_->fillToolbar(toolbar_,
+                           {
+                               {.name = "cmdNew",
+                                .caption = "New Map",
+                                .run = replacing([&w, &s, &p] { newMapCommand(w, s, p); }),
+                                .picture = "new.gif"},
+                               {.name = "cmdLoad",
+                                .caption = "Load Map",
+                                .run = replacing([&w, &s, &p] { loadMapCommand(w, s, p, false); }),
+                                .picture = "load.gif"},
+                               {.name = "cmdSave",
+                                .caption = "Save Map",
+                                .run = save,
+                                .guard = busyGuarded,
+                                .picture = "save.gif"},
+                               {.name = "chkLocked",
+                                .caption = "Map Lock",
+                                .run = lockFrom("chkLocked"),
+                                .checkable = true,
+                                .picture = "lock.gif"},
+                               {.name = "chkMovement",
+                                .caption = "Movement point counter",
+                                .checkable = true,
+                                .picture = "movement.gif"},
+                               {.name = "cmdGotoxy",
+                                .caption = "Go to co-ords",
+                                .run = [&s, &p] { gotoXYCommand(s.view, p); },
+                                .picture = "gotoxy.gif"},
+                               {.name = "cmdGotoNote", .caption = "Go to note", .picture = "gotonote.gif"},
+                               {.name = "cmdGotoSettle",
+                                .caption = "Go to settlement",
+                                .run = openSettlementFinder,
+                                .guard = busyGuarded,
+                                .picture = "gotosettlement.gif"},
+                           });
 }
 
 } // namespace wayscribe

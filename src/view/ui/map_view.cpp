@@ -102,20 +102,19 @@ void MapView::Picture1_MouseMove(int column, int row)
 
 void MapView::hscroll_Change(int value)
 {
-    ViewState &view = state_.view;
-    if (view.scrollBusy)
-        return;
-    view.viewLeft = static_cast<std::int16_t>(std::min(value, largestViewOrigin(view.viewCols)));
-    if (!state_.document.fileBusy)
-        redraw();
+    scrolledTo(state_.view.viewLeft, value, state_.view.viewCols);
 }
 
 void MapView::vscroll_Change(int value)
 {
-    ViewState &view = state_.view;
-    if (view.scrollBusy)
+    scrolledTo(state_.view.viewTop, value, state_.view.viewRows);
+}
+
+void MapView::scrolledTo(std::int16_t &origin, int value, int visible)
+{
+    if (state_.view.scrollBusy)
         return;
-    view.viewTop = static_cast<std::int16_t>(std::min(value, largestViewOrigin(view.viewRows)));
+    origin = clampedViewOrigin(value, visible);
     if (!state_.document.fileBusy)
         redraw();
 }

@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+#include <cstdint>
+
 class QScrollBar;
 
 namespace wayscribe {
@@ -47,6 +49,9 @@ private:
     void syncScrollBars();
     void hscroll_Change(int value);
     void vscroll_Change(int value);
+    // A scroll bar moved by the person (not by the program) moves the origin
+    // and redraws, unless a file job runs.
+    void scrolledTo(std::int16_t &origin, int value, int visible);
     void Picture1_MouseMove(int column, int row);
 
     const World &world_;
