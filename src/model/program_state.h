@@ -55,14 +55,30 @@ struct Selections {
     std::int16_t selNumber = 0;
     std::int16_t selShop = 0;
     std::int16_t selDungeon = 0;
+    std::int16_t brushTerrain = 1; // BrushTerrain: the palette's terrain code, Unknown at start-up
 };
 
 inline constexpr int kMaxPathEntries = 100;
 
-// The movement counter's path: entry 0 is the start square.
-struct MovementPath {
+// The mount items of the Edit menu, numbered as the column of the movement
+// cost table each one chooses. Exactly one of them is checked.
+enum class Mount : std::uint8_t { Arabians = 1, Mules = 2, Drafts = 3, Flying = 4 };
+
+// The movement point counter: its switches, the path clicked out on the map
+// and what the path costs.
+struct MovementState {
+    std::uint8_t moveCounterOn = 0; // MoveCounterOn, mirrored by chkMovement and mnuEditMovement
+    std::int16_t moveMode = 0;      // MoveMode: 0 on foot, else the mount's column
+    bool horseCounter = false;      // chkHorses
+    // The menu starts with the first mount checked, so that ticking the horse
+    // box alone already counts with a mount.
+    Mount checkedMount = Mount::Arabians;
+    // Entry 0 is the start square, 1..100 the squares moved to; an entry with
+    // both coordinates 0 is free.
     std::array<std::uint8_t, kMaxPathEntries + 1> pathX{};
     std::array<std::uint8_t, kMaxPathEntries + 1> pathY{};
+    std::int16_t moveTotal = 0; // MoveTotal: points of entries 1..100
+    std::int16_t moveSteps = 0; // MoveSteps: entries 1..100 in use
 };
 
 // The small state of the main window that every part of the program shares.
@@ -70,7 +86,7 @@ struct ProgramState {
     DocumentState document;
     ViewState view;
     Selections selection;
-    MovementPath movement;
+    MovementState movement;
     std::string appFolder;
     // Where the options file lives: beside the program, or in the person's
     // configuration folder when the program's folder cannot be written.

@@ -6,18 +6,25 @@
 
 namespace wayscribe {
 
-NoteMarker noteMarkerFor(const Sector &sector, bool optExtra)
+NoteMarker noteMarkerOf(std::string_view note, bool optExtra)
 {
-    if (isSettlementTerrain(sector.terrain) || trimBlanks(sector.note).empty())
+    if (trimBlanks(note).empty())
         return NoteMarker::None;
     if (optExtra) {
-        const std::string_view prefix = leftChars(sector.note, 8);
+        const std::string_view prefix = leftChars(note, 8);
         if (prefix == "DUNGEON:")
             return NoteMarker::Dungeon;
         if (prefix == "SPECIAL:")
             return NoteMarker::Special;
     }
     return NoteMarker::Note;
+}
+
+NoteMarker noteMarkerFor(const Sector &sector, bool optExtra)
+{
+    if (isSettlementTerrain(sector.terrain))
+        return NoteMarker::None;
+    return noteMarkerOf(sector.note, optExtra);
 }
 
 int footprintPicture(std::uint16_t moveMark, bool startSquare)
