@@ -26,6 +26,8 @@ void copyEntry(QPainter &painter, const TileSheet &sheet, int entry, QPoint at,
     painter.drawImage(at, sheet.sheet(), QRect(TileSheet::entryPosition(entry), QSize(kTile, kTile)));
 }
 
+} // namespace
+
 // Codes without a tile of ours (0, and the 19..25 a QuestOR map can carry)
 // show the Unknown tile with a small red square in the middle, so that the
 // player sees something unusual is there without the drawing ever reaching
@@ -56,6 +58,15 @@ void drawNoteMarker(QPainter &painter, const TileSheet &sheet, NoteMarker marker
     }
     painter.setCompositionMode(QPainter::CompositionMode_Source);
 }
+
+void drawBorderLines(PixelCanvas &canvas, const ViewState &view)
+{
+    const QRgb black = qRgb(0, 0, 0);
+    canvas.drawLine(QPoint(0, 0), QPoint(view.viewCols * kTile - 1, 0), black);
+    canvas.drawLine(QPoint(0, 0), QPoint(0, view.viewRows * kTile - 1), black);
+}
+
+namespace {
 
 // Footprints are whole pictures laid over the tile; their transparent parts
 // let the terrain show.
@@ -123,9 +134,7 @@ void drawMap(QImage &picture, const World &world, const ProgramState &state, con
     QPainter painter(&picture);
     drawSectors(painter, canvas, world, state, sheet,
                 {state.view.viewLeft + 1, state.view.viewTop + 1, state.view.viewCols, state.view.viewRows});
-    const QRgb black = qRgb(0, 0, 0);
-    canvas.drawLine(QPoint(0, 0), QPoint(state.view.viewCols * kTile - 1, 0), black);
-    canvas.drawLine(QPoint(0, 0), QPoint(0, state.view.viewRows * kTile - 1), black);
+    drawBorderLines(canvas, state.view);
 }
 
 bool Refresh_Map(QImage &picture, Minimap &minimap, const World &world, const ProgramState &state,

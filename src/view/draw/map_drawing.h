@@ -1,12 +1,18 @@
 #pragma once
 
+#include "view/sector_markers.h"
+
 #include <QImage>
+
+class QPainter;
 
 namespace wayscribe {
 
 class World;
 struct ProgramState;
+struct ViewState;
 class TileSheet;
+class PixelCanvas;
 struct Minimap;
 
 // A block of sectors: the first is (firstX, firstY); parts outside the world
@@ -21,6 +27,15 @@ struct SectorArea {
 // The format the map is drawn in: a picture in another format is converted
 // before drawing.
 inline constexpr QImage::Format kMapPictureFormat = QImage::Format_RGB32;
+
+// The pieces of one sector's drawing, for redrawing a single tile after an
+// edit. Each leaves the painter in CompositionMode_Source.
+// The terrain tile of a code, plain copied.
+void drawTerrain(QPainter &painter, const TileSheet &sheet, int terrain, QPoint at);
+// The note marker masked over the tile, or the dungeon or special icon.
+void drawNoteMarker(QPainter &painter, const TileSheet &sheet, NoteMarker marker, QPoint at);
+// The two black border lines along the top and left of the visible map.
+void drawBorderLines(PixelCanvas &canvas, const ViewState &view);
 
 // Draws every sector of the area as 16 x 16 logical pixels, the first at the
 // picture's top-left pixel: terrain tile, road lines, note marker (dungeon and
