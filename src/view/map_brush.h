@@ -20,6 +20,8 @@ struct SectorRepaint {
     bool noteMarker = false; // then the note's marker
     // Whenever a tile is painted, the sector's minimap pixel is coloured from
     // the sector's terrain as well.
+
+    bool operator==(const SectorRepaint &) const = default;
 };
 
 struct BrushResult {

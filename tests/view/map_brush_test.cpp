@@ -29,6 +29,13 @@ protected:
         state.selection.brushTerrain = static_cast<std::int16_t>(brush);
         return brushClick(*world, state, platform, x, y);
     }
+    void expectRecord(int n, int inUse, int x, int y) const
+    {
+        const Settlement &s = world->settlement(n);
+        EXPECT_EQ(s.inUse, inUse) << n;
+        EXPECT_EQ(s.x, x) << n;
+        EXPECT_EQ(s.y, y) << n;
+    }
     void expectSettlementEditorOn(int n, int x, int y) const
     {
         EXPECT_EQ(state.selection.selShop, 20);
@@ -48,17 +55,12 @@ TEST_F(MapBrush, PlainPaintingRedrawsTheTileWithRoadLinesOnlyForRoad)
     setTerrain(3, 3, kWater);
     BrushResult r = paint(3, 3, kRoad);
     EXPECT_EQ(world->sector(3, 3).terrain, kRoad);
-    EXPECT_EQ(r.repaint.tile, kRoad);
-    EXPECT_TRUE(r.repaint.roads);
-    EXPECT_TRUE(r.repaint.noteMarker);
+    EXPECT_EQ(r.repaint, (SectorRepaint{kRoad, true, true}));
     EXPECT_EQ(r.editor, SectorEditor::None);
     EXPECT_EQ(state.document.mapChanged, 1);
     EXPECT_TRUE(platform.messages.empty());
 
-    r = paint(3, 3, kForest);
-    EXPECT_EQ(r.repaint.tile, kForest);
-    EXPECT_FALSE(r.repaint.roads);
-    EXPECT_TRUE(r.repaint.noteMarker);
+    EXPECT_EQ(paint(3, 3, kForest).repaint, (SectorRepaint{kForest, false, true}));
 }
 
 TEST_F(MapBrush, VillageOnAFreeMapFoundsSettlementOneAndOpensItsEditor)
@@ -69,12 +71,8 @@ TEST_F(MapBrush, VillageOnAFreeMapFoundsSettlementOneAndOpensItsEditor)
     EXPECT_EQ(s.terrain, kVillage);
     EXPECT_EQ(s.settlementNumber, 1);
     EXPECT_EQ(s.settlementName, "Un-named");
-    EXPECT_EQ(world->settlement(1).inUse, 1);
-    EXPECT_EQ(world->settlement(1).x, 7);
-    EXPECT_EQ(world->settlement(1).y, 9);
-    EXPECT_EQ(r.repaint.tile, kVillage);
-    EXPECT_FALSE(r.repaint.roads);
-    EXPECT_FALSE(r.repaint.noteMarker);
+    expectRecord(1, 1, 7, 9);
+    EXPECT_EQ(r.repaint, (SectorRepaint{kVillage, false, false}));
     EXPECT_EQ(r.editor, SectorEditor::Settlement);
     expectSettlementEditorOn(1, 7, 9);
     EXPECT_TRUE(platform.messages.empty());
@@ -93,9 +91,9 @@ TEST_F(MapBrush, RemovingASettlementAsksAndFreesItsNumberForTheNext)
     EXPECT_EQ(platform.messages[0].title, "Sure?");
     EXPECT_EQ(platform.messages[0].buttons, MessageButtons::YesNo);
     EXPECT_EQ(platform.messages[0].icon, MessageIcon::Critical);
-    EXPECT_EQ(r.repaint.tile, 0);
+    EXPECT_EQ(r.repaint, SectorRepaint{});
     EXPECT_EQ(world->sector(5, 5).terrain, kTown);
-    EXPECT_EQ(world->settlement(2).inUse, 1);
+    expectRecord(2, 1, 5, 5);
     EXPECT_EQ(state.document.mapChanged, 1) << "declining leaves the map marked as changed";
 
     platform.answers = {Answer::Yes};
@@ -104,12 +102,9 @@ TEST_F(MapBrush, RemovingASettlementAsksAndFreesItsNumberForTheNext)
     EXPECT_EQ(s.terrain, kForest);
     EXPECT_EQ(s.settlementNumber, 0);
     EXPECT_EQ(s.settlementName, "");
-    EXPECT_EQ(world->settlement(2).inUse, 0);
-    EXPECT_EQ(world->settlement(2).x, 0);
-    EXPECT_EQ(world->settlement(2).y, 0);
+    expectRecord(2, 0, 0, 0);
     EXPECT_EQ(world->settlement(2).cityState, "");
-    EXPECT_EQ(r.repaint.tile, kForest);
-    EXPECT_TRUE(r.repaint.noteMarker);
+    EXPECT_EQ(r.repaint, (SectorRepaint{kForest, false, true}));
     EXPECT_EQ(r.editor, SectorEditor::None);
 
     r = paint(20, 20, kCity);
@@ -127,9 +122,7 @@ TEST_F(MapBrush, ReplacingASettlementFreesTheOldNumberAndTakesTheLowestFree)
     EXPECT_EQ(world->sector(5, 5).settlementNumber, 2) << "the same number, free again";
     EXPECT_EQ(world->sector(5, 5).settlementName, "Un-named");
     EXPECT_EQ(world->settlement(2).cityState, "Free City") << "a replaced settlement keeps its city state";
-    EXPECT_EQ(r.repaint.tile, kTown);
-    EXPECT_FALSE(r.repaint.noteMarker);
-    EXPECT_EQ(r.editor, SectorEditor::Settlement);
+    EXPECT_EQ(r.repaint, (SectorRepaint{kTown, false, false}));
 
     world->settlement(1).inUse = 0;
     r = paint(5, 5, kCity);
@@ -155,9 +148,7 @@ TEST_F(MapBrush, TheHundredAndSixtyFirstSettlementLeavesTheSectorUnknown)
     EXPECT_EQ(platform.messages[0].buttons, MessageButtons::Ok);
     EXPECT_EQ(world->sector(2, 5).terrain, kUnknown);
     EXPECT_EQ(world->sector(2, 5).settlementName, "");
-    EXPECT_EQ(r.repaint.tile, kUnknown);
-    EXPECT_FALSE(r.repaint.roads);
-    EXPECT_FALSE(r.repaint.noteMarker);
+    EXPECT_EQ(r.repaint, (SectorRepaint{kUnknown, false, false}));
     EXPECT_EQ(r.editor, SectorEditor::None);
 }
 
