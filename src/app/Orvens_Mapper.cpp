@@ -12,6 +12,9 @@
 #include "shared/ui/world_change_signal.h"
 #include "storage/map_commands.h"
 #include "storage/options_file.h"
+#include "view/movement_counter.h"
+#include "view/movement_orders.h"
+#include "view/ui/map_clicks.h"
 #include "view/ui/map_picture.h"
 #include "view/ui/map_view.h"
 #include "view/ui/minimap_widget.h"
@@ -89,8 +92,6 @@ void Orvens_Mapper::buildCentre()
     auto *paintLayout = new QVBoxLayout(paint);
     palette_ = new TerrainPalette(paint);
     paintLayout->addWidget(palette_);
-    // Painting with the mouse comes with map editing.
-    palette_->setEnabled(false);
     column->addWidget(paint);
 
     // On a small screen the panels scroll rather than push the window off it.
@@ -111,7 +112,16 @@ void Orvens_Mapper::buildCentre()
     statusBar()->addWidget(txtStatus, 1);
 
     connect(mapView_, &MapView::sectorHovered, this,
-            [this](int x, int y) { sectorPanel_->showSector(world_, x, y); });
+            [this](int x, int y) { sectorPanel_->showSector(world_, x, y, state_.movement.moveMode); });
+    clicks_ = new MapClicks(world_, state_, platform_, *history_, *mapView_, this);
+    connect(mapView_, &MapView::sectorClicked, clicks_, &MapClicks::Picture1_Click);
+    connect(clicks_, &MapClicks::counterChanged, this, &Orvens_Mapper::counterChanged);
+    connect(palette_, &TerrainPalette::terrainChosen, this,
+            [this](int terrain) { state_.selection.brushTerrain = static_cast<std::int16_t>(terrain); });
+    connect(movementPanel_, &MovementPanel::horseCounterClicked, this,
+            [this](bool ticked) { counterChanged(setHorseCounter(world_, state_.movement, ticked)); });
+    connect(movementPanel_, &MovementPanel::copyOrdersClicked, this,
+            [this] { copyMovementOrders(state_.movement, platform_); });
     connect(mapView_, &MapView::minimapRedrawn, MiniMap, &MinimapWidget::setImage);
     connect(MiniMap, &MinimapWidget::clicked, mapView_, &MapView::centreOnMinimapPoint);
     connect(MiniMap, &MinimapWidget::pointerMoved, this, [this](double x, double y) {
@@ -144,6 +154,23 @@ void Orvens_Mapper::worldChanged()
 {
     refreshUndoItems();
     updateTitle();
+}
+
+void Orvens_Mapper::counterChanged(const CounterUpdate &update)
+{
+    if (update.boxes)
+        movementPanel_->showCounts(*update.boxes);
+    if (update.redrawMap)
+        redrawMap();
+    const MovementState &movement = state_.movement;
+    // The toolbar box, the menu items and the horse box mirror the counter.
+    commands_->action("chkMovement")->setChecked(movement.moveCounterOn == 1);
+    commands_->action("mnuEditMovement")->setChecked(movement.moveCounterOn == 1);
+    movementPanel_->setHorseCounter(movement.horseCounter);
+    for (const auto &[item, mount] :
+         {std::pair{"mnuArabians", Mount::Arabians}, std::pair{"mnuMules", Mount::Mules},
+          std::pair{"mnuDrafts", Mount::Drafts}, std::pair{"mnuFlying", Mount::Flying}})
+        commands_->action(item)->setChecked(movement.checkedMount == mount);
 }
 
 void Orvens_Mapper::showStatus(const std::string &text)
@@ -237,7 +264,6 @@ bool Orvens_Mapper::startUp(const std::string &mapToOpen)
     if (!loadPictures())
         return false;
     sectorPanel_->reset();
-    movementPanel_->reset();
     world_.clear();
     state_.movement = {};
     doc.fileBusy = 0;

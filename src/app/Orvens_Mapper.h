@@ -23,6 +23,8 @@ class CommandTable;
 class WindowHost;
 class TileSetMenu;
 class MapView;
+class MapClicks;
+struct CounterUpdate;
 class MapPicture;
 class MinimapWidget;
 class SectorPanel;
@@ -73,6 +75,8 @@ private:
     void showAbout();
     void worldChanged();
     void refreshUndoItems();
+    // Shows what a movement counter command changed.
+    void counterChanged(const CounterUpdate &update);
     // The commands that change the world, as undo steps; the commands that
     // replace the map (New, Open) empty the history.
     std::function<void()> undoable(const char *name, std::function<void()> command);
@@ -90,6 +94,7 @@ private:
     WindowHost *host_ = nullptr;
     TileSetMenu *tileSets_ = nullptr;
     MapView *mapView_ = nullptr;
+    MapClicks *clicks_ = nullptr;
     MinimapWidget *MiniMap = nullptr;
     SectorPanel *sectorPanel_ = nullptr;
     MovementPanel *movementPanel_ = nullptr;

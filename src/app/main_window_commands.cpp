@@ -17,6 +17,7 @@
 #include "storage/questor_import.h"
 #include "travel/ui/frmRouteFinder.h"
 #include "view/map_tools.h"
+#include "view/movement_counter.h"
 #include "view/ui/frmGotoCity.h"
 #include "view/view_navigation.h"
 
@@ -35,6 +36,17 @@ void Orvens_Mapper::buildCommands()
     const auto busyGuarded = Command::NotWhileBusy;
     const auto openSettlementFinder = [this] {
         host_->open(new frmGotoCity(world_, state_.view, platform_, this));
+    };
+    // The movement counter's two switches each show the new state once
+    // clicked; the mounts are checked by the counter's own rule.
+    const auto counterFrom = [this](const char *control) {
+        return [this, control] {
+            counterChanged(
+                setMovementCounter(world_, state_.movement, commands_->action(control)->isChecked()));
+        };
+    };
+    const auto mount = [this](Mount chosen) {
+        return [this, chosen] { counterChanged(chooseMount(world_, state_.movement, chosen)); };
     };
     // Undo and redo redraw the map themselves: the edits draw what they
     // change as they always have, and some (removing a note from its list)
@@ -85,12 +97,12 @@ void Orvens_Mapper::buildCommands()
             {"mnuEditWater", "&Unknowns to Water",
              undoable("Unknowns to Water", [&w, &s, &p] { unknownsToWaterCommand(w, s, p); })},
             Command::separator("mnuEditSep1"),
-            {"mnuArabians", "Use &Arabians", {}},
-            {"mnuMules", "Use &Mules", {}},
-            {"mnuDrafts", "Use &Drafts", {}},
-            {"mnuFlying", "Use &Flying", {}},
+            {"mnuArabians", "Use &Arabians", mount(Mount::Arabians), Command::Always, true},
+            {"mnuMules", "Use &Mules", mount(Mount::Mules), Command::Always, true},
+            {"mnuDrafts", "Use &Drafts", mount(Mount::Drafts), Command::Always, true},
+            {"mnuFlying", "Use &Flying", mount(Mount::Flying), Command::Always, true},
             Command::separator("mnuEditSep2"),
-            {"mnuEditMovement", "Movement &Counter", {}},
+            {"mnuEditMovement", "Movement &Counter", counterFrom("mnuEditMovement"), Command::Always, true},
             Command::separator("mnuEditSep3"),
             {"mnuEditUndo", "&Undo",
              [this] {
@@ -158,6 +170,7 @@ void Orvens_Mapper::buildCommands()
                                 .picture = "lock.gif"},
                                {.name = "chkMovement",
                                 .caption = "Movement point counter",
+                                .run = counterFrom("chkMovement"),
                                 .checkable = true,
                                 .picture = "movement.gif"},
                                {.name = "cmdGotoxy",

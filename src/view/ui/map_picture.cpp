@@ -17,6 +17,7 @@ MapPicture::MapPicture(QWidget *parent) : QWidget(parent)
     setObjectName("Picture1");
     setAccessibleName("Map");
     setMouseTracking(true);
+    setCursor(Qt::CrossCursor);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     // The map can be scrolled from the keyboard once it has the focus.
@@ -79,11 +80,20 @@ void MapPicture::keyPressEvent(QKeyEvent *event)
 
 void MapPicture::mouseMoveEvent(QMouseEvent *event)
 {
-    const QPoint p = event->position().toPoint();
-    const int column = p.x() / 16 + 1;
-    const int row = p.y() / 16 + 1;
-    const bool inside = p.x() >= 0 && p.y() >= 0 && column <= width() / 16 && row <= height() / 16;
-    emit hovered(inside ? column : 0, inside ? row : 0);
+    emit pointerMoved(event->position().toPoint(), event->buttons() != Qt::NoButton);
+}
+
+void MapPicture::mousePressEvent(QMouseEvent *event)
+{
+    const int button = event->button() == Qt::LeftButton ? 1 : event->button() == Qt::RightButton ? 2 : 0;
+    emit pressed(button, event->position().toPoint());
+}
+
+void MapPicture::mouseReleaseEvent(QMouseEvent *event)
+{
+    // A click ends where it began: releasing outside the picture is no click.
+    if (rect().contains(event->position().toPoint()))
+        emit clicked();
 }
 
 } // namespace wayscribe

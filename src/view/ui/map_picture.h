@@ -22,9 +22,12 @@ public:
 
 signals:
     void resized();
-    // View column and row under the pointer, counted from 1; 0 when outside
-    // the drawn tiles.
-    void hovered(int column, int row);
+    // The pointer moved to `pixel`; `buttonHeld` while a mouse button is down.
+    void pointerMoved(QPoint pixel, bool buttonHeld);
+    // A button went down at `pixel`: 1 the left button, 2 the right, 0 any other.
+    void pressed(int button, QPoint pixel);
+    // The button that went down came up: a click.
+    void clicked();
     // Arrow and page keys: how far to move the view, in sectors, or in
     // half views for the page keys.
     void scrollRequested(int sectorsX, int sectorsY, bool byHalfViews);
@@ -33,6 +36,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:

@@ -2,7 +2,9 @@
 
 #include "model/program_state.h"
 #include "model/world.h"
+#include "view/draw/click_drawing.h"
 #include "view/draw/map_drawing.h"
+#include "view/map_brush.h"
 #include "view/minimap_geometry.h"
 #include "view/ui/map_picture.h"
 #include "view/view_navigation.h"
@@ -33,7 +35,9 @@ MapView::MapView(const World &world, ProgramState &state, const TileSheet &sheet
     grid->addWidget(hscroll, 1, 0);
 
     connect(Picture1, &MapPicture::resized, this, &MapView::measure);
-    connect(Picture1, &MapPicture::hovered, this, &MapView::Picture1_MouseMove);
+    connect(Picture1, &MapPicture::pointerMoved, this, &MapView::Picture1_MouseMove);
+    connect(Picture1, &MapPicture::pressed, this, &MapView::Picture1_MouseDown);
+    connect(Picture1, &MapPicture::clicked, this, &MapView::Picture1_Click);
     connect(Picture1, &MapPicture::scrollRequested, this, [this](int dx, int dy, bool byHalfViews) {
         // Moving the scroll bars runs their own change handlers.
         hscroll->setValue(hscroll->value() + dx * (byHalfViews ? hscroll->pageStep() : 1));
@@ -81,6 +85,15 @@ void MapView::redraw()
     state_.view.fullRedraw = 0;
 }
 
+void MapView::showClick(const MapHit &hit, const SectorRepaint &repaint)
+{
+    QImage &picture = Picture1->backBuffer();
+    drawSectorRepaint(picture, minimap_, world_, state_, sheet_, hit.x, hit.y, repaint);
+    finishMapClick(picture, minimap_, world_, state_);
+    Picture1->update();
+    emit minimapRedrawn(minimap_.image);
+}
+
 void MapView::centreOnMinimapPoint(double x, double y)
 {
     if (state_.document.fileBusy)
@@ -89,15 +102,28 @@ void MapView::centreOnMinimapPoint(double x, double y)
     redraw();
 }
 
-void MapView::Picture1_MouseMove(int column, int row)
+void MapView::Picture1_MouseMove(QPoint pixel, bool buttonHeld)
 {
-    const ViewState &view = state_.view;
-    const int x = view.viewLeft + column;
-    const int y = view.viewTop + row;
-    if (column < 1 || row < 1 || column > view.viewCols || row > view.viewRows || !isSectorIndex(x) ||
-        !isSectorIndex(y))
+    // With a button held the boxes keep what they show.
+    if (buttonHeld)
         return;
-    emit sectorHovered(x, y);
+    if (const std::optional<MapHit> hit = hitTest(state_.view, pixel.x(), pixel.y())) {
+        hoverX_ = hit->x;
+        hoverY_ = hit->y;
+    }
+    emit sectorHovered(hoverX_, hoverY_);
+}
+
+void MapView::Picture1_MouseDown(int button, QPoint pixel)
+{
+    lastButton_ = button;
+    lastPress_ = pixel;
+}
+
+void MapView::Picture1_Click()
+{
+    if (const std::optional<MapHit> hit = hitTest(state_.view, lastPress_.x(), lastPress_.y()))
+        emit sectorClicked(*hit, lastButton_);
 }
 
 void MapView::hscroll_Change(int value)

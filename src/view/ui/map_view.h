@@ -1,6 +1,7 @@
 #pragma once
 
 #include "view/draw/minimap_drawing.h"
+#include "view/hit_test.h"
 
 #include <QWidget>
 
@@ -12,6 +13,7 @@ namespace wayscribe {
 
 class World;
 struct ProgramState;
+struct SectorRepaint;
 class TileSheet;
 class MapPicture;
 
@@ -35,13 +37,21 @@ public:
     // inside the world, and redraws.
     void measure();
 
+    // What a map click draws: the clicked sector as `repaint` says (when it
+    // says anything), then how every click ends: the border lines and the
+    // whole minimap.
+    void showClick(const MapHit &hit, const SectorRepaint &repaint);
+
     // A minimap click: the point goes to the middle of the view. Ignored
     // while a file job runs.
     void centreOnMinimapPoint(double x, double y);
 
 signals:
-    // The sector under the pointer.
+    // The sector the status boxes show: the one under the pointer, or the
+    // last one it was over.
     void sectorHovered(int x, int y);
+    // A click on a sector: `button` 1 is the left button, 2 the right, 0 any other.
+    void sectorClicked(const wayscribe::MapHit &hit, int button);
     // The minimap picture was drawn anew.
     void minimapRedrawn(const QImage &image);
 
@@ -52,7 +62,9 @@ private:
     // A scroll bar moved by the person (not by the program) moves the origin
     // and redraws, unless a file job runs.
     void scrolledTo(std::int16_t &origin, int value, int visible);
-    void Picture1_MouseMove(int column, int row);
+    void Picture1_MouseMove(QPoint pixel, bool buttonHeld);
+    void Picture1_MouseDown(int button, QPoint pixel);
+    void Picture1_Click();
 
     const World &world_;
     ProgramState &state_;
@@ -61,6 +73,10 @@ private:
     MapPicture *Picture1 = nullptr;
     QScrollBar *hscroll = nullptr;
     QScrollBar *vscroll = nullptr;
+    int hoverX_ = 1; // HoverX, HoverY
+    int hoverY_ = 1;
+    int lastButton_ = 0; // LastButton
+    QPoint lastPress_;
 };
 
 } // namespace wayscribe

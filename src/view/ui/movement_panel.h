@@ -2,24 +2,33 @@
 
 #include <QGroupBox>
 
+class QCheckBox;
 class QLineEdit;
+class QPushButton;
 
 namespace wayscribe {
 
-// The movement point counter's boxes and commands. The counter itself is not
-// part of this version yet: the panel shows its starting values, disabled.
+struct CounterBoxes;
+
+// The movement point counter's boxes and commands: the points and squares of
+// the path, the horse counter and the copy of the "M" orders.
 class MovementPanel : public QGroupBox {
     Q_OBJECT
 public:
     explicit MovementPanel(QWidget *parent);
 
-    // The values start-up shows: no sector, no squares, no points.
-    void reset();
+    void showCounts(const CounterBoxes &boxes);
+    void setHorseCounter(bool ticked);
+
+signals:
+    void horseCounterClicked(bool ticked);
+    void copyOrdersClicked();
 
 private:
-    QLineEdit *mpbox = nullptr;
     QLineEdit *mpcbox = nullptr;
     QLineEdit *txtTotalMPs = nullptr;
+    QCheckBox *chkHorses = nullptr;
+    QPushButton *cmdMPCommandClipboard = nullptr;
 };
 
 } // namespace wayscribe

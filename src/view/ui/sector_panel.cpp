@@ -1,5 +1,6 @@
 #include "view/ui/sector_panel.h"
 
+#include "model/text.h"
 #include "shared/ui/labelled_fields.h"
 #include "shared/ui/qt_text.h"
 #include "view/sector_info.h"
@@ -18,38 +19,43 @@ SectorPanel::SectorPanel(QWidget *parent) : QGroupBox("Sector", parent)
     auto *form = new QFormLayout(this);
     Xbox = readOnlyBox("Xbox", this);
     Ybox = readOnlyBox("Ybox", this);
+    // One label for the two boxes: each box says which of the two it is.
+    Xbox->setAccessibleName("Co-odinates: X");
+    Ybox->setAccessibleName("Co-odinates: Y");
     auto *coords = new QHBoxLayout;
-    coords->addWidget(buddyLabel("lblX", "&X:", Xbox, this));
     coords->addWidget(Xbox);
-    coords->addWidget(buddyLabel("lblY", "&Y:", Ybox, this));
     coords->addWidget(Ybox);
-    form->addRow(coords);
+    form->addRow(buddyLabel("lblCoordinates", "Co-odinates:", Xbox, this), coords);
     terbox = readOnlyBox("terbox", this);
     form->addRow("Terrain:", terbox);
+    mpbox = readOnlyBox("mpbox", this);
+    form->addRow("M.P:", mpbox);
     citybox = readOnlyBox("citybox", this);
     form->addRow("Settlement:", citybox);
     citynumbox = readOnlyBox("citynumbox", this);
     form->addRow("Number:", citynumbox);
     txtCityState = readOnlyBox("txtCityState", this);
-    form->addRow("City-state:", txtCityState);
+    form->addRow("City State:", txtCityState);
     txtNoteBox = new QPlainTextEdit(this);
     txtNoteBox->setObjectName("txtNoteBox");
     txtNoteBox->setReadOnly(true);
     txtNoteBox->setMinimumHeight(48);
-    form->addRow("Note:", txtNoteBox);
+    form->addRow("Notes:", txtNoteBox);
 }
 
 void SectorPanel::reset()
 {
     terbox->setText("Unknown");
+    mpbox->setText("0");
 }
 
-void SectorPanel::showSector(const World &world, int x, int y)
+void SectorPanel::showSector(const World &world, int x, int y, int moveMode)
 {
-    const SectorInfo info = describeSector(world, x, y);
-    Xbox->setText(QString::number(x));
-    Ybox->setText(QString::number(y));
+    const SectorInfo info = describeSector(world, x, y, moveMode);
+    Xbox->setText(toQString(info.x));
+    Ybox->setText(toQString(info.y));
     terbox->setText(toQString(info.terrain));
+    mpbox->setText(toQString(info.movementPoints));
     txtNoteBox->setPlainText(toQString(info.note));
     citybox->setText(toQString(info.settlementName));
     citynumbox->setText(toQString(info.settlementNumber));
@@ -59,9 +65,9 @@ void SectorPanel::showSector(const World &world, int x, int y)
 void SectorPanel::showCoordinates(int x, int y)
 {
     if (x > 0)
-        Xbox->setText(QString::number(x));
+        Xbox->setText(toQString(formatGeneral(x)));
     if (y > 0)
-        Ybox->setText(QString::number(y));
+        Ybox->setText(toQString(formatGeneral(y)));
 }
 
 } // namespace wayscribe

@@ -31,6 +31,10 @@ TerrainPalette::TerrainPalette(QWidget *parent) : QWidget(parent)
         grid->addWidget(b, i / 6, i % 6);
         buttons_[i] = b;
     }
+    // The chosen terrain stands out with a frame in the selection colour.
+    setStyleSheet("QToolButton:checked { border: 2px solid palette(highlight); border-radius: 3px; }");
+    buttons_[0]->setChecked(true); // the brush starts as Unknown
+    connect(group, &QButtonGroup::idClicked, this, [this](int i) { emit terrainChosen(i + 1); });
 }
 
 void TerrainPalette::showTiles(const TileSheet &sheet)

@@ -19,6 +19,10 @@ public:
     void showTiles(const TileSheet &sheet);
     QToolButton *button(int index) const { return buttons_.at(index); }
 
+signals:
+    // iconselect Click: the terrain code 1..18 the brush paints with.
+    void terrainChosen(int terrain);
+
 private:
     std::array<QToolButton *, 18> buttons_{};
 };

@@ -1,0 +1,20 @@
+#include "view/hit_test.h"
+
+#include "model/program_state.h"
+
+#include <cmath>
+
+namespace wayscribe {
+
+std::optional<MapHit> hitTest(const ViewState &view, double px, double py)
+{
+    const double column = std::floor(px / 16) + 1;
+    const double row = std::floor(py / 16) + 1;
+    if (column < 1 || row < 1 || column > view.viewCols || row > view.viewRows)
+        return std::nullopt;
+    const int c = static_cast<int>(column);
+    const int r = static_cast<int>(row);
+    return MapHit{view.viewLeft + c, view.viewTop + r, c, r};
+}
+
+} // namespace wayscribe
