@@ -14,23 +14,10 @@
 
 namespace wayscribe {
 
-namespace {
-
-bool prepare(QImage &picture)
-{
-    if (picture.isNull())
-        return false;
-    if (picture.format() != kMapPictureFormat)
-        picture.convertTo(kMapPictureFormat);
-    return true;
-}
-
-} // namespace
-
 void drawSectorRepaint(QImage &picture, Minimap &minimap, const World &world, const ProgramState &state,
                        const TileSheet &sheet, int x, int y, const SectorRepaint &repaint)
 {
-    if (repaint.tile == 0 || !isSectorIndex(x) || !isSectorIndex(y) || !prepare(picture))
+    if (repaint.tile == 0 || !isSectorIndex(x) || !isSectorIndex(y) || !prepareMapPicture(picture))
         return;
     const int c = x - state.view.viewLeft, r = y - state.view.viewTop;
     const QPoint at((c - 1) * TileSheet::kTileSize, (r - 1) * TileSheet::kTileSize);
@@ -50,7 +37,7 @@ void drawSectorRepaint(QImage &picture, Minimap &minimap, const World &world, co
 
 void finishMapClick(QImage &picture, Minimap &minimap, const World &world, const ProgramState &state)
 {
-    if (prepare(picture)) {
+    if (prepareMapPicture(picture)) {
         PixelCanvas canvas(picture);
         drawBorderLines(canvas, state.view);
     }

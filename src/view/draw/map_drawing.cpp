@@ -59,6 +59,15 @@ void drawNoteMarker(QPainter &painter, const TileSheet &sheet, NoteMarker marker
     painter.setCompositionMode(QPainter::CompositionMode_Source);
 }
 
+bool prepareMapPicture(QImage &picture)
+{
+    if (picture.isNull())
+        return false;
+    if (picture.format() != kMapPictureFormat)
+        picture.convertTo(kMapPictureFormat);
+    return true;
+}
+
 void drawBorderLines(PixelCanvas &canvas, const ViewState &view)
 {
     const QRgb black = qRgb(0, 0, 0);
@@ -93,15 +102,6 @@ void drawSector(QPainter &painter, PixelCanvas &canvas, const World &world, cons
     drawFootprint(painter, sheet, footprintPicture(sector.moveMark, start), at);
 }
 
-bool prepare(QImage &picture)
-{
-    if (picture.isNull())
-        return false;
-    if (picture.format() != kMapPictureFormat)
-        picture.convertTo(kMapPictureFormat);
-    return true;
-}
-
 void drawSectors(QPainter &painter, PixelCanvas &canvas, const World &world, const ProgramState &state,
                  const TileSheet &sheet, const SectorArea &area)
 {
@@ -119,7 +119,7 @@ void drawSectors(QPainter &painter, PixelCanvas &canvas, const World &world, con
 void drawSectors(QImage &picture, const World &world, const ProgramState &state, const TileSheet &sheet,
                  const SectorArea &area)
 {
-    if (!prepare(picture))
+    if (!prepareMapPicture(picture))
         return;
     PixelCanvas canvas(picture);
     QPainter painter(&picture);
@@ -128,7 +128,7 @@ void drawSectors(QImage &picture, const World &world, const ProgramState &state,
 
 void drawMap(QImage &picture, const World &world, const ProgramState &state, const TileSheet &sheet)
 {
-    if (!prepare(picture))
+    if (!prepareMapPicture(picture))
         return;
     PixelCanvas canvas(picture);
     QPainter painter(&picture);

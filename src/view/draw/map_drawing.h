@@ -37,6 +37,10 @@ void drawNoteMarker(QPainter &painter, const TileSheet &sheet, NoteMarker marker
 // The two black border lines along the top and left of the visible map.
 void drawBorderLines(PixelCanvas &canvas, const ViewState &view);
 
+// False for a picture without pixels; converts one in another format to the
+// map's format, so that drawing into it is exact.
+bool prepareMapPicture(QImage &picture);
+
 // Draws every sector of the area as 16 x 16 logical pixels, the first at the
 // picture's top-left pixel: terrain tile, road lines, note marker (dungeon and
 // special icons with the Extra option of `state`) and the footprints of the
