@@ -20,7 +20,13 @@ ChangeHistory::~ChangeHistory() = default;
 
 WorldChange ChangeHistory::apply(const std::string &name, const std::function<void()> &edit)
 {
-    return run(ChangeRecorder::Mode::Record, edit, [&] { return closeStep(name); });
+    return apply(name, edit, std::string());
+}
+
+WorldChange ChangeHistory::apply(const std::string &name, const std::function<void()> &edit,
+                                 const std::string &joinKey)
+{
+    return run(ChangeRecorder::Mode::Record, edit, [&] { return closeStep(name, joinKey); });
 }
 
 WorldChange ChangeHistory::replace(const std::function<void()> &command)
@@ -53,7 +59,7 @@ WorldChange ChangeHistory::run(ChangeRecorder::Mode mode, const std::function<vo
     return notify(close());
 }
 
-WorldChange ChangeHistory::closeStep(const std::string &name)
+WorldChange ChangeHistory::closeStep(const std::string &name, const std::string &joinKey)
 {
     Step step{name, recorder_.finish(), std::nullopt, 0};
     if (document_.gameNumber != gameNumberBefore_)
@@ -61,13 +67,19 @@ WorldChange ChangeHistory::closeStep(const std::string &name)
     if (step.changes.empty() && !step.gameNumber)
         return {};
     WorldChange change = describe(step);
-    push(std::move(step));
+    const bool joins = !joinKey.empty() && joinKey == lastJoinKey_ && done_ == steps_.size() && done_ > 0;
+    if (joins)
+        join(steps_.back(), std::move(step));
+    else
+        push(std::move(step));
+    lastJoinKey_ = joinKey;
     return change;
 }
 
 WorldChange ChangeHistory::closeReplacement()
 {
     recorder_.finish();
+    lastJoinKey_.clear();
     const bool newGameNumber = document_.gameNumber != gameNumberBefore_;
     if (!recorder_.touchedAnything() && !newGameNumber)
         return {};
@@ -103,6 +115,7 @@ WorldChange ChangeHistory::undo()
     if (!canUndo())
         return {};
     --done_;
+    lastJoinKey_.clear();
     return notify(exchange(steps_[done_]));
 }
 
@@ -111,6 +124,7 @@ WorldChange ChangeHistory::redo()
     if (!canRedo())
         return {};
     ++done_;
+    lastJoinKey_.clear();
     return notify(exchange(steps_[done_ - 1]));
 }
 
@@ -119,6 +133,7 @@ void ChangeHistory::clear()
     steps_.clear();
     done_ = 0;
     stepBytes_ = 0;
+    lastJoinKey_.clear();
 }
 
 std::size_t ChangeHistory::memoryBytes() const
@@ -159,6 +174,17 @@ WorldChange ChangeHistory::exchange(Step &step)
     WorldChange change = describe(step);
     trimToBudget();
     return change;
+}
+
+void ChangeHistory::join(Step &older, Step newer)
+{
+    older.changes.joinNewer(std::move(newer.changes));
+    if (!older.gameNumber)
+        older.gameNumber = newer.gameNumber;
+    stepBytes_ -= older.bytes;
+    older.bytes = stepBytes(older.name, older.changes, sizeof(Step));
+    stepBytes_ += older.bytes;
+    trimToBudget();
 }
 
 void ChangeHistory::push(Step step)

@@ -53,6 +53,12 @@ public:
     // records must be taken inside `edit`: a write through one taken before
     // the step is not seen. Leaves document.mapChanged to the command.
     WorldChange apply(const std::string &name, const std::function<void()> &edit);
+    // The same, but a step whose `joinKey` (not empty) equals that of the
+    // step just before it, with no other step, undo, redo or replacement
+    // between them, becomes part of that step: a run of keystrokes in one
+    // box is undone at once. The joined step keeps each record's content
+    // from before the first of them.
+    WorldChange apply(const std::string &name, const std::function<void()> &edit, const std::string &joinKey);
 
     // Runs a command that may replace the document (New, Open). When it
     // touched the world or the game number the history is emptied, as the
@@ -90,10 +96,11 @@ private:
 
     WorldChange run(ChangeRecorder::Mode mode, const std::function<void()> &command,
                     const std::function<WorldChange()> &close);
-    WorldChange closeStep(const std::string &name);
+    WorldChange closeStep(const std::string &name, const std::string &joinKey);
     WorldChange closeReplacement();
     WorldChange exchange(Step &step);
     void push(Step step);
+    void join(Step &older, Step newer);
     void trimToBudget();
     static WorldChange describe(const Step &step);
     WorldChange notify(WorldChange change);
@@ -107,6 +114,9 @@ private:
     std::deque<Step> steps_;
     std::size_t done_ = 0; // steps_[0, done_) can be undone, the rest redone
     std::size_t stepBytes_ = 0;
+    // The join key of the newest step while nothing else has happened since
+    // it was kept; empty otherwise.
+    std::string lastJoinKey_;
     std::vector<std::pair<int, Listener>> listeners_;
     int nextListenerId_ = 1;
 };

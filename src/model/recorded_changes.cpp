@@ -16,7 +16,40 @@ template <typename Entry> std::size_t tableBytes(const std::vector<Entry> &entri
     return entries.capacity() * sizeof(Entry);
 }
 
+// Merges two tables kept in ascending order of `key`; on equal keys the
+// entry of `older` stays.
+template <typename Entry, typename Key>
+void mergeOlderFirst(std::vector<Entry> &older, std::vector<Entry> &&newer, Key key)
+{
+    if (newer.empty())
+        return;
+    std::vector<Entry> merged;
+    merged.reserve(older.size() + newer.size());
+    auto a = older.begin();
+    auto b = newer.begin();
+    while (a != older.end() || b != newer.end()) {
+        if (b == newer.end() || (a != older.end() && key(*a) <= key(*b))) {
+            if (b != newer.end() && key(*a) == key(*b))
+                ++b;
+            merged.push_back(std::move(*a++));
+        } else {
+            merged.push_back(std::move(*b++));
+        }
+    }
+    older = std::move(merged);
+}
+
 } // namespace
+
+void RecordedChanges::joinNewer(RecordedChanges &&newer)
+{
+    mergeOlderFirst(sectors, std::move(newer.sectors), [](const SectorEntry &e) { return e.index; });
+    mergeOlderFirst(settlements, std::move(newer.settlements), [](const SettlementEntry &e) { return e.n; });
+    mergeOlderFirst(shops, std::move(newer.shops), [](const ShopEntry &e) { return e.index; });
+    mergeOlderFirst(dungeons, std::move(newer.dungeons), [](const DungeonEntry &e) { return e.d; });
+    mergeOlderFirst(questorNames, std::move(newer.questorNames),
+                    [](const QuestorNameEntry &e) { return e.number; });
+}
 
 bool RecordedChanges::empty() const
 {

@@ -45,6 +45,9 @@ struct RecordedChanges {
     std::vector<QuestorNameEntry> questorNames;
 
     bool empty() const;
+    // Takes in the records of the step that followed this one, for joining
+    // the two: a record both hold keeps this side's (earlier) content.
+    void joinNewer(RecordedChanges &&newer);
     // Swaps every recorded record's content with the world's.
     void exchangeWith(World &world);
     // Bytes held, counting the entries and the texts they own.

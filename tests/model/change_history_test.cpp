@@ -323,3 +323,60 @@ TEST(ChangeHistory, LeavesTheWorldAsBeforeWhenGone)
     history.undo();
     EXPECT_EQ(w->sector(1, 1).terrain, 1);
 }
+
+TEST(ChangeHistory, StepsWithTheSameJoinKeyInARowBecomeOne)
+{
+    Maps m;
+    ChangeHistory history(*m.world, m.doc);
+    const auto type = [&](const std::string &name, const std::string &key) {
+        history.apply(
+            "Name", [&] { m.world->sector(1, 2).settlementName = name; }, key);
+    };
+    // A run of keystrokes, each touching the name, and one also a shop and a
+    // settlement record that sort before and after those the run holds.
+    type("T", "name");
+    type("To", "name");
+    history.apply(
+        "Name",
+        [&] {
+            m.world->sector(1, 2).settlementName = "Tow";
+            m.world->setShopName(3, 4, "Inn");
+            m.world->settlement(30).cityState = "Far";
+        },
+        "name");
+    type("Town", "name");
+    history.undo();
+    EXPECT_FALSE(history.canUndo());
+    expectSame(*m.world, m.doc, *m.reference, m.referenceDoc);
+    history.redo();
+    EXPECT_EQ(m.world->sector(1, 2).settlementName, "Town");
+    EXPECT_EQ(m.world->shopName(3, 4), "Inn");
+    EXPECT_EQ(m.world->settlement(30).cityState, "Far");
+
+    // Another key, an undo or a step without a key ends the run.
+    const auto undoAll = [&] {
+        int steps = 0;
+        while (history.canUndo()) {
+            history.undo();
+            ++steps;
+        }
+        return steps;
+    };
+    history.clear();
+    type("A", "name");
+    type("B", "city");
+    type("C", "name");
+    history.apply("Brush", [&] { m.world->sector(9, 9).terrain = 2; });
+    type("D", "name");
+    history.undo();
+    history.redo();
+    type("E", "name");
+    EXPECT_EQ(undoAll(), 6);
+    expectSame(*m.world, m.doc, *m.reference, m.referenceDoc);
+
+    // A step that changed nothing is no step and does not end the run.
+    type("F", "name");
+    history.apply("Nothing", [] {});
+    type("G", "name");
+    EXPECT_EQ(undoAll(), 1);
+}
