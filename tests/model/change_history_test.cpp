@@ -352,6 +352,7 @@ TEST(ChangeHistory, StepsWithTheSameJoinKeyInARowBecomeOne)
     EXPECT_EQ(m.world->sector(1, 2).settlementName, "Town");
     EXPECT_EQ(m.world->shopName(3, 4), "Inn");
     EXPECT_EQ(m.world->settlement(30).cityState, "Far");
+    history.undo();
 
     // Another key, an undo or a step without a key ends the run.
     const auto undoAll = [&] {
