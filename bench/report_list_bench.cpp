@@ -11,6 +11,7 @@
 #include "model/text.h"
 #include "model/world.h"
 #include "sample/world_generator.h"
+#include "settlements/objects_database.h"
 #include "settlements/report_table.h"
 #include "settlements/sort_list.h"
 #include "settlements/ui/report_list_model.h"
@@ -30,53 +31,13 @@ namespace {
 constexpr double kTargetMs = 250.0;
 constexpr int kScreenRows = 40;
 
-std::uint32_t packItem(int settlement, int shop, int item)
-{
-    return static_cast<std::uint32_t>(settlement << 16 | shop << 8 | item);
-}
-
-// The objects database's columns over a world; a row is a packed item.
-ReportTable objectsTable(const World &world)
-{
-    auto cell = [&world](std::uint32_t ref, int column, std::string &out) {
-        const int n = static_cast<int>(ref >> 16), shop = static_cast<int>(ref >> 8 & 0xFF),
-                  item = static_cast<int>(ref & 0xFF);
-        const Settlement &s = world.settlement(n);
-        switch (column) {
-        case 1:
-            out.append(trimBlanks(world.sector(s.x, s.y).settlementName));
-            out.append(" (").append(formatPlain(n)).append(")");
-            break;
-        case 2:
-            out.append(trimBlanks(world.shopName(n, shop)));
-            out.append(" (").append(formatPlain(shop)).append(")");
-            break;
-        case 3:
-            out.append(trimBlanks(world.item(n, shop, item, ItemField::Name)));
-            break;
-        case 4:
-            out.append(trimBlanks(world.item(n, shop, item, ItemField::Number)));
-            break;
-        default:
-            out.append(trimBlanks(world.item(n, shop, item, ItemField::Price)));
-            break;
-        }
-    };
-    return ReportTable({{"Settlement", 1870, ColumnAlignment::Left, SortKind::Text},
-                        {"Shop", 2070, ColumnAlignment::Left, SortKind::Text},
-                        {"Object", 1900, ColumnAlignment::Left, SortKind::Text},
-                        {"#", 580, ColumnAlignment::Right, SortKind::Number},
-                        {"Price", 600, ColumnAlignment::Right, SortKind::Number}},
-                       cell);
-}
-
 void fill(ReportTable &table, const World &world)
 {
     for (int n = 1; n <= kMaxSettlements; ++n)
         for (int shop = 0; shop <= kMaxShop; ++shop)
             for (int item = 1; item <= kItemsPerShop; ++item)
                 if (!trimBlanks(world.item(n, shop, item, ItemField::Name)).empty())
-                    table.addRow(packItem(n, shop, item));
+                    table.addRow(packObjectRow(n, n, shop, item));
 }
 
 void build(benchmark::State &bench, const World &world)
