@@ -55,7 +55,9 @@ struct Selections {
     std::int16_t selNumber = 0;
     std::int16_t selShop = 0;
     std::int16_t selDungeon = 0;
-    std::int16_t brushTerrain = 1; // BrushTerrain: the palette's terrain code, Unknown at start-up
+    std::int16_t brushTerrain = 1;    // BrushTerrain: the palette's terrain code, Unknown at start-up
+    std::string notesSearchText;      // NotesSearchText: the notes database's search box, kept until exit
+    std::uint8_t dungeonFormOpen = 0; // DungeonFormOpen: 1 while the dungeon window is open
 };
 
 inline constexpr int kMaxPathEntries = 100;
