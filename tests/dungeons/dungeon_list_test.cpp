@@ -48,7 +48,7 @@ TEST(DungeonList, RemovalClearsEveryLevelAndTheOtherRowsKeepTheirNumbers)
     auto world = std::make_unique<World>();
     world->sector(3, 3).note = "DUNGEON: Old Mine";
     for (int d : {2, 4, 6}) {
-        world->dungeon(d).name = "Cave " + std::to_string(d);
+        world->dungeon(d).name = std::string("Cave ").append(std::to_string(d));
         world->dungeon(d).levels = 10;
         for (int l = 1; l <= kLevelsPerDungeon; ++l)
             world->dungeon(d).level[l] = {"map", "rooms"};

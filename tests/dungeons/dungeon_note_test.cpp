@@ -78,7 +78,7 @@ TEST_F(DungeonFromNote, ALaterMatchFreesTheSlotTakenOnTheWayAndTheLastMatchWins)
 TEST_F(DungeonFromNote, AFullTableGivesSlotZero)
 {
     for (int d = 1; d <= kMaxDungeons; ++d)
-        world->dungeon(d).name = "D" + std::to_string(d);
+        world->dungeon(d).name = std::string("D").append(std::to_string(d));
     EXPECT_EQ(open("DUNGEON: Newcomer. 2 levels."), 0);
     EXPECT_EQ(selection.selDungeon, 0);
     EXPECT_EQ(world->dungeon(0).name, "");

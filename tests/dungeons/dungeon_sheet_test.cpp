@@ -25,7 +25,7 @@ protected:
         mine().name = "Old Mine";
         mine().levels = 3;
         for (int l = 1; l <= kLevelsPerDungeon; ++l)
-            mine().level[l].roomData = "rooms " + std::to_string(l);
+            mine().level[l].roomData = std::string("rooms ").append(std::to_string(l));
     }
 };
 
