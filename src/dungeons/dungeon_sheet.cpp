@@ -28,9 +28,9 @@ std::optional<int> typedLevelNumber(std::string_view typed, int lowest)
 
 } // namespace
 
-SectorPosition dungeonPosition(const World &world, std::string_view name)
+EntrancePosition dungeonPosition(const World &world, std::string_view name)
 {
-    SectorPosition found;
+    EntrancePosition found;
     for (int y = 1; y <= kMapSize; ++y)
         for (int x = 1; x <= kMapSize; ++x) {
             const std::string &note = world.sector(x, y).note;

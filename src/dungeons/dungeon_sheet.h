@@ -9,14 +9,14 @@ class World;
 class ChangeHistory;
 struct Selections;
 
-struct SectorPosition {
+struct EntrancePosition {
     int x = 0, y = 0;
 };
 
 // Where a dungeon's entrance is: the last sector, rows from the top and
 // each row from the left, whose note contains the name (case-sensitive);
 // 0, 0 when there is none.
-SectorPosition dungeonPosition(const World &world, std::string_view name);
+EntrancePosition dungeonPosition(const World &world, std::string_view name);
 
 // The dungeon window's rules for the dungeon SelDungeon: the level it
 // shows, its level buttons and typed numbers, and what it stores. The room
@@ -35,7 +35,7 @@ public:
     int knownLevels() const;
     const std::string &levelMap() const;
     const std::string &roomData() const;
-    SectorPosition position() const { return position_; }
+    EntrancePosition position() const { return position_; }
 
     // One level deeper, only above the known levels; one towards the
     // surface, only below level 1. True when the level changed.
@@ -60,7 +60,7 @@ private:
     ChangeHistory &history_;
     int dungeon_;
     int level_ = 1;
-    SectorPosition position_;
+    EntrancePosition position_;
 };
 
 } // namespace wayscribe
