@@ -14,10 +14,13 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace wayscribe {
 
@@ -124,9 +127,9 @@ frmObjects::frmObjects(const World &world, ViewState &view, Platform &platform, 
             [this](int row) { goToRow(static_cast<std::size_t>(row)); });
     connect(cmdExit, &QPushButton::clicked, this, &QWidget::close);
 
-    // The five columns side by side, and a screenful of rows above the filters.
-    resize(560, 560);
     List_Update_All();
+    // The five columns side by side, and a screenful of rows above the filters.
+    resize(std::max(560, lstObjects->horizontalHeader()->length() + 60), 560);
 }
 
 bool frmObjects::eventFilter(QObject *watched, QEvent *event)
@@ -166,6 +169,21 @@ void frmObjects::List_Update_All()
     // A filling the unknown error stopped keeps what it listed, without Goto.
     lstObjects->setVisible(result.completed ? rows : wasShown);
     cmdGoto->setEnabled(result.completed && rows);
+    widenTextColumns();
+}
+
+void frmObjects::widenTextColumns()
+{
+    // Shop and item names are often longer than the columns' usual widths:
+    // a text column grows to the texts of the rows the list measures (the
+    // first thousand or so), up to a limit, and never shrinks.
+    constexpr int kWidest = 320;
+    for (int column = 0; column < 3; ++column) {
+        const int before = lstObjects->columnWidth(column);
+        lstObjects->resizeColumnToContents(column);
+        lstObjects->setColumnWidth(column,
+                                   std::max(before, std::min(lstObjects->columnWidth(column), kWidest)));
+    }
 }
 
 void frmObjects::Option1_Click(int index)

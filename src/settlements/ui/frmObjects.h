@@ -31,6 +31,7 @@ protected:
 
 private:
     void List_Update_All();
+    void widenTextColumns();
     void Option1_Click(int index);
     void cmdRefresh_Click();
     void cmdGoto_Click();
