@@ -8,10 +8,13 @@
 #include "model/file_paths.h"
 #include "model/program_state.h"
 #include "model/world.h"
+#include "notes/ui/frmNote.h"
+#include "settlements/ui/frmSettlement.h"
 #include "shared/ui/qt_text.h"
 #include "shared/ui/world_change_signal.h"
 #include "storage/map_commands.h"
 #include "storage/options_file.h"
+#include "travel/ui/frmRouteFinder.h"
 #include "view/movement_counter.h"
 #include "view/movement_orders.h"
 #include "view/ui/map_clicks.h"
@@ -116,6 +119,7 @@ void Orvens_Mapper::buildCentre()
     clicks_ = new MapClicks(world_, state_, platform_, *history_, *mapView_, this);
     connect(mapView_, &MapView::sectorClicked, clicks_, &MapClicks::Picture1_Click);
     connect(clicks_, &MapClicks::counterChanged, this, &Orvens_Mapper::counterChanged);
+    connect(clicks_, &MapClicks::editorRequested, this, &Orvens_Mapper::openEditor);
     connect(palette_, &TerrainPalette::terrainChosen, this,
             [this](int terrain) { state_.selection.brushTerrain = static_cast<std::int16_t>(terrain); });
     connect(movementPanel_, &MovementPanel::horseCounterClicked, this,
@@ -171,6 +175,29 @@ void Orvens_Mapper::counterChanged(const CounterUpdate &update)
          {std::pair{"mnuArabians", Mount::Arabians}, std::pair{"mnuMules", Mount::Mules},
           std::pair{"mnuDrafts", Mount::Drafts}, std::pair{"mnuFlying", Mount::Flying}})
         commands_->action(item)->setChecked(movement.checkedMount == mount);
+}
+
+void Orvens_Mapper::openEditor(SectorEditor editor)
+{
+    if (editor == SectorEditor::Note) {
+        host_->open(new frmNote(world_, state_, platform_, *history_, *host_, this));
+    } else if (editor == SectorEditor::Settlement) {
+        auto *settlement = new frmSettlement(world_, state_, platform_, *history_, this);
+        connect(settlement, &frmSettlement::travelRequested, this, &Orvens_Mapper::openRouteFinder);
+        host_->open(settlement);
+    }
+}
+
+void Orvens_Mapper::openRouteFinder(const QString &boxText, bool asDestination)
+{
+    auto *finder = new frmRouteFinder(world_, state_, platform_, this);
+    if (!boxText.isEmpty()) {
+        if (asDestination)
+            finder->setToText(boxText);
+        else
+            finder->setFromText(boxText);
+    }
+    host_->open(finder);
 }
 
 void Orvens_Mapper::showStatus(const std::string &text)

@@ -3,6 +3,7 @@
 #include "app/app_paths.h"
 #include "app/qt_platform.h"
 #include "view/draw/tile_sheet.h"
+#include "view/map_brush.h"
 
 #include <QMainWindow>
 
@@ -77,6 +78,11 @@ private:
     void refreshUndoItems();
     // Shows what a movement counter command changed.
     void counterChanged(const CounterUpdate &update);
+    // A map click opens the note or settlement editor of the selected sector.
+    void openEditor(SectorEditor editor);
+    // The travel agency, with a settlement handed over by the settlement
+    // editor in one of its boxes (none when `boxText` is empty).
+    void openRouteFinder(const QString &boxText, bool asDestination);
     // The commands that change the world, as undo steps; the commands that
     // replace the map (New, Open) empty the history.
     std::function<void()> undoable(const char *name, std::function<void()> command);

@@ -8,14 +8,17 @@
 #include "app/frmOptions.h"
 #include "app/tile_set_menu.h"
 #include "app/window_host.h"
+#include "dungeons/ui/frmDungeonList.h"
 #include "import/batch_import.h"
 #include "import/html_import.h"
 #include "model/change_history.h"
 #include "model/program_state.h"
+#include "notes/ui/frmNotes.h"
+#include "settlements/ui/frmObjects.h"
+#include "settlements/ui/frmSettList.h"
 #include "storage/map_commands.h"
 #include "storage/options_file.h"
 #include "storage/questor_import.h"
-#include "travel/ui/frmRouteFinder.h"
 #include "view/map_tools.h"
 #include "view/movement_counter.h"
 #include "view/ui/frmGotoCity.h"
@@ -34,6 +37,9 @@ void Orvens_Mapper::buildCommands()
     ProgramState &s = state_;
     Platform &p = platform_;
     const auto busyGuarded = Command::NotWhileBusy;
+    const auto openNotes = [this] {
+        host_->open(new frmNotes(world_, state_, platform_, *history_, *host_, this));
+    };
     const auto openSettlementFinder = [this] {
         host_->open(new frmGotoCity(world_, state_.view, platform_, this));
     };
@@ -120,20 +126,22 @@ void Orvens_Mapper::buildCommands()
     commands_->addMenu(bar, "mnuView", "View",
                        {
                            {"mnuGotoCity", "Goto &City", openSettlementFinder, busyGuarded},
-                           {"mnuViewNote", "Goto &Note", {}},
+                           {"mnuViewNote", "Goto &Note", openNotes},
                            {"mnuViewGoto", "&Goto X Y", [&s, &p] { gotoXYCommand(s.view, p); }},
                        });
     commands_->addMenu(
         bar, "mnuInformation", "Information",
         {
             {"mnuInformationPercent", "&Map Statistics", [&w, &p] { mapStatisticsCommand(w, p); }},
-            {"mnuInformationObjects", "&Objects Database", {}},
-            {"mnuInformationNotes", "&Notes Database", {}},
-            {"mnuInfoSett", "&Settlement Database", {}},
-            {"mnuInfoDungeon", "&Dungeon Database", {}},
+            {"mnuInformationObjects", "&Objects Database",
+             [this] { host_->open(new frmObjects(world_, state_.view, platform_, this)); }},
+            {"mnuInformationNotes", "&Notes Database", openNotes},
+            {"mnuInfoSett", "&Settlement Database",
+             [this] { host_->open(new frmSettList(world_, state_.view, platform_, this)); }},
+            {"mnuInfoDungeon", "&Dungeon Database",
+             [this] { host_->open(new frmDungeonList(world_, state_, platform_, *history_, *host_, this)); }},
             Command::separator("mnuInformationLine"),
-            {"mnuInformationTravel", "&Travel Agency",
-             [this] { host_->open(new frmRouteFinder(world_, state_, platform_, this)); }, busyGuarded},
+            {"mnuInformationTravel", "&Travel Agency", [this] { openRouteFinder({}, false); }, busyGuarded},
         });
     tileSets_ = new TileSetMenu(bar, this);
     connect(tileSets_, &TileSetMenu::chosen, this, &Orvens_Mapper::loadTileSet);
@@ -148,42 +156,43 @@ void Orvens_Mapper::buildCommands()
     toolbar_->setIconSize(QSize(24, 24));
     toolbar_->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     // The New Map and Load Map buttons do not test the busy flag; Save does.
-    commands_->fillToolbar(toolbar_,
-                           {
-                               {.name = "cmdNew",
-                                .caption = "New Map",
-                                .run = replacing([&w, &s, &p] { newMapCommand(w, s, p); }),
-                                .picture = "new.gif"},
-                               {.name = "cmdLoad",
-                                .caption = "Load Map",
-                                .run = replacing([&w, &s, &p] { loadMapCommand(w, s, p, false); }),
-                                .picture = "load.gif"},
-                               {.name = "cmdSave",
-                                .caption = "Save Map",
-                                .run = save,
-                                .guard = busyGuarded,
-                                .picture = "save.gif"},
-                               {.name = "chkLocked",
-                                .caption = "Map Lock",
-                                .run = lockFrom("chkLocked"),
-                                .checkable = true,
-                                .picture = "lock.gif"},
-                               {.name = "chkMovement",
-                                .caption = "Movement point counter",
-                                .run = counterFrom("chkMovement"),
-                                .checkable = true,
-                                .picture = "movement.gif"},
-                               {.name = "cmdGotoxy",
-                                .caption = "Go to co-ords",
-                                .run = [&s, &p] { gotoXYCommand(s.view, p); },
-                                .picture = "gotoxy.gif"},
-                               {.name = "cmdGotoNote", .caption = "Go to note", .picture = "gotonote.gif"},
-                               {.name = "cmdGotoSettle",
-                                .caption = "Go to settlement",
-                                .run = openSettlementFinder,
-                                .guard = busyGuarded,
-                                .picture = "gotosettlement.gif"},
-                           });
+    commands_->fillToolbar(
+        toolbar_,
+        {
+            {.name = "cmdNew",
+             .caption = "New Map",
+             .run = replacing([&w, &s, &p] { newMapCommand(w, s, p); }),
+             .picture = "new.gif"},
+            {.name = "cmdLoad",
+             .caption = "Load Map",
+             .run = replacing([&w, &s, &p] { loadMapCommand(w, s, p, false); }),
+             .picture = "load.gif"},
+            {.name = "cmdSave",
+             .caption = "Save Map",
+             .run = save,
+             .guard = busyGuarded,
+             .picture = "save.gif"},
+            {.name = "chkLocked",
+             .caption = "Map Lock",
+             .run = lockFrom("chkLocked"),
+             .checkable = true,
+             .picture = "lock.gif"},
+            {.name = "chkMovement",
+             .caption = "Movement point counter",
+             .run = counterFrom("chkMovement"),
+             .checkable = true,
+             .picture = "movement.gif"},
+            {.name = "cmdGotoxy",
+             .caption = "Go to co-ords",
+             .run = [&s, &p] { gotoXYCommand(s.view, p); },
+             .picture = "gotoxy.gif"},
+            {.name = "cmdGotoNote", .caption = "Go to note", .run = openNotes, .picture = "gotonote.gif"},
+            {.name = "cmdGotoSettle",
+             .caption = "Go to settlement",
+             .run = openSettlementFinder,
+             .guard = busyGuarded,
+             .picture = "gotosettlement.gif"},
+        });
 }
 
 } // namespace wayscribe

@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QDialog>
 #include <QLineEdit>
 #include <QMouseEvent>
 #include <QPlainTextEdit>
@@ -44,6 +45,17 @@ void chooseTerrain(Harness &h, int terrain)
 QString box(Harness &h, const char *name)
 {
     return h.find<QLineEdit>(name)->text();
+}
+
+// A new settlement opens its editor, which holds the main window until it
+// closes.
+void closeSettlementEditor(Harness &h)
+{
+    QDialog *editor = h.window->findChild<QDialog *>("frmSettlement");
+    QVERIFY(editor);
+    editor->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(h.window->centralWidget()->isEnabled());
 }
 
 std::string savedBytes(Harness &h)
@@ -100,6 +112,7 @@ private slots:
         QCOMPARE(h.world->sector(10, 10).settlementName, std::string("Un-named"));
         QCOMPARE(int(h.state.selection.selShop), 20);
         QCOMPARE(int(h.state.selection.selSettlement), 1);
+        closeSettlementEditor(h);
         checkUndoRestores(h, empty);
 
         // Painting over a settlement asks first; No leaves it standing.
@@ -123,6 +136,7 @@ private slots:
         click(h, 10, 10, Qt::RightButton);
         QCOMPARE(h.world->sector(10, 10).terrain, 17);
         QCOMPARE(h.world->sector(10, 10).settlementNumber, 1);
+        closeSettlementEditor(h);
         checkUndoRestores(h, village);
     }
 
@@ -156,6 +170,8 @@ private slots:
         click(h, 3, 4, Qt::LeftButton);
         QCOMPARE(int(h.state.selection.selX), 3);
         QCOMPARE(int(h.state.selection.selY), 4);
+        // Over land that is no settlement, the left button opens the note editor.
+        QVERIFY(h.window->findChild<QDialog *>("frmNote"));
     }
 
     void statusBoxesFollowThePointerWithNoButtonHeld()
