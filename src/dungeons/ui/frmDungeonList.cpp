@@ -14,6 +14,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace wayscribe {
 
 namespace {
@@ -58,7 +60,7 @@ frmDungeonList::frmDungeonList(World &world, ProgramState &state, Platform &plat
 
     List_Update_All();
     // The four columns and the scroll bar, without a horizontal scroll bar.
-    resize(460, 360);
+    resize(std::max(460, sizeHint().width()), 360);
 }
 
 void frmDungeonList::List_Update_All()

@@ -10,6 +10,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace wayscribe {
 
 namespace {
@@ -49,7 +51,7 @@ frmSettList::frmSettList(const World &world, ViewState &view, Platform &platform
     connect(cmdExit, &QPushButton::clicked, this, &QWidget::close);
 
     // All five columns without a horizontal scroll bar.
-    resize(420, 480);
+    resize(std::max(420, sizeHint().width()), 480);
     List_Update_All();
 }
 

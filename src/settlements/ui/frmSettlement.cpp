@@ -112,6 +112,9 @@ frmSettlement::frmSettlement(World &world, ProgramState &state, Platform &platfo
                                   }),
                       "Objects in shop", this);
     lblObjects = buddyLabel("lblObjects", "Objects in shop:", lstObjects, this);
+    // The item's name takes the room the window has; the price keeps its width.
+    lstObjects->horizontalHeader()->setStretchLastSection(false);
+    lstObjects->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
 
     AddShop = button("AddShop", "Add shop", this);
     AddObject = button("AddObject", "Add object", this);

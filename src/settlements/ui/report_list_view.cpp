@@ -5,7 +5,9 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScrollBar>
 
+#include <algorithm>
 #include <cmath>
 
 namespace wayscribe {
@@ -15,6 +17,12 @@ namespace {
 int widthInPixels(int units)
 {
     return static_cast<int>(std::lround(units / 15.0));
+}
+
+// Room for a column's title and the header's own margins.
+int titleWidth(const QHeaderView &header, const QString &title)
+{
+    return header.fontMetrics().horizontalAdvance(title) + 2 * header.fontMetrics().averageCharWidth() + 4;
 }
 
 } // namespace
@@ -45,11 +53,22 @@ ReportListView::ReportListView(ReportTable table, const QString &accessibleName,
     header->setStretchLastSection(false);
     // No order arrow: in the narrow number columns it would hide the title.
     header->setSortIndicatorShown(false);
+    // The described widths were measured for another system's font: a
+    // column is never narrower than its own title, so no title is cut.
     for (int c = 1; c <= model_->table().columnCount(); ++c)
-        header->resizeSection(c - 1, widthInPixels(model_->table().column(c).width));
+        header->resizeSection(
+            c - 1, std::max(widthInPixels(model_->table().column(c).width),
+                            titleWidth(*header, model_->headerData(c - 1, Qt::Horizontal).toString())));
     connect(header, &QHeaderView::sectionClicked, this, &ReportListView::headerClicked);
     connect(this, &QAbstractItemView::doubleClicked, this,
             [this](const QModelIndex &index) { emit rowActivated(index.row()); });
+}
+
+QSize ReportListView::sizeHint() const
+{
+    const int width =
+        horizontalHeader()->length() + verticalScrollBar()->sizeHint().width() + 2 * frameWidth();
+    return {width, QTableView::sizeHint().height()};
 }
 
 const ReportTable &ReportListView::table() const

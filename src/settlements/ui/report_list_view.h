@@ -26,6 +26,9 @@ public:
     // Every change of the rows goes through here (see ReportListModel).
     void refill(const std::function<void(ReportTable &)> &fill);
 
+    // Wide enough for every column and the scroll bar.
+    QSize sizeHint() const override;
+
     // The selected row in display order, none when nothing is selected.
     std::optional<std::size_t> selectedRow() const;
     std::optional<std::uint32_t> selectedReference() const;
