@@ -147,7 +147,7 @@ TEST(ObjectsDatabase, SettlementClassesAndNamelessRecordsAreLeftOut)
 {
     Shops s;
     for (int n : {20, 21, 60, 61, 160}) {
-        s.settlement(n, "S" + std::to_string(n));
+        s.settlement(n, std::string("S").append(std::to_string(n)));
         s.sell(n, 1, 1, "Rope", std::to_string(n), "1");
     }
     s.settlement(5, "   "); // a blank name: the settlement takes no part
