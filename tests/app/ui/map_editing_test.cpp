@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDialog>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -138,6 +139,24 @@ private slots:
         QCOMPARE(h.world->sector(10, 10).settlementNumber, 1);
         closeSettlementEditor(h);
         checkUndoRestores(h, village);
+    }
+
+    void theSettlementEditorHandsItsSettlementToTheTravelAgency()
+    {
+        Harness h;
+        h.start();
+        h.world->settlement(12) = {1, 6, 6, ""};
+        h.world->sector(6, 6) = {17, 12, 0, "", "Oakvale"};
+        click(h, 6, 6, Qt::LeftButton);
+        auto *editor = h.window->findChild<QDialog *>("frmSettlement");
+        QVERIFY(editor);
+        editor->findChild<QAction *>("mnuTravelTo")->trigger();
+        QTRY_VERIFY(!h.window->findChild<QDialog *>("frmSettlement"));
+        auto *finder = h.window->findChild<QDialog *>("frmRouteFinder");
+        QVERIFY(finder);
+        QCOMPARE(finder->findChild<QComboBox *>("cmbTo")->currentText(), QString("Oakvale (12)"));
+        // The main window waits while the travel agency is open.
+        QVERIFY(!h.window->centralWidget()->isEnabled());
     }
 
     void theHundredAndSixtyFirstSettlementIsRefused()
