@@ -1,8 +1,13 @@
 #pragma once
 
+#include <cstdint>
 #include <ostream>
 #include <string>
 #include <vector>
+
+namespace wayscribe {
+class World;
+}
 
 namespace wayscribe::cli {
 
@@ -20,6 +25,12 @@ struct ParsedArgs {
     const std::string *option(const std::string &name) const;
 };
 bool parseArgs(const Args &args, const std::vector<std::string> &known, ParsedArgs &out, std::ostream &err);
+
+// Reads a map file into `world`; says which file and line when it cannot
+// (the command then exits with kInputError). `version` receives the file's
+// format version when asked for.
+bool loadMap(const std::string &path, World &world, std::uint8_t &gameNumber, std::ostream &err,
+             int *version = nullptr);
 
 // Writes a text with its CR LF line breaks as LF.
 void writeWithUnixLineEnds(std::ostream &out, const std::string &text);

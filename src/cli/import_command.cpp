@@ -56,11 +56,8 @@ int prepare(const ParsedArgs &p, ImportRun &run, std::ostream &err)
         readOptionsFile(*ini, run.state);
     }
     if (const std::string *map = p.option("--map")) {
-        const MapReadResult r = readMapFile(*map, *run.world, run.state.document.gameNumber);
-        if (!r.ok) {
-            err << "wayscribe-cli: cannot read map " << r.error.describe() << '\n';
+        if (!loadMap(*map, *run.world, run.state.document.gameNumber, err))
             return kInputError;
-        }
     }
     return kOk;
 }

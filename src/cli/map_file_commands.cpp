@@ -13,20 +13,6 @@ namespace wayscribe::cli {
 
 namespace {
 
-// Loads a map into a fresh model; reports and returns false when it cannot.
-bool loadInto(const std::string &path, World &world, std::uint8_t &gameNumber, std::ostream &err,
-              int *version = nullptr)
-{
-    const MapReadResult r = readMapFile(path, world, gameNumber);
-    if (!r.ok) {
-        err << "wayscribe-cli: cannot read map " << r.error.describe() << '\n';
-        return false;
-    }
-    if (version)
-        *version = r.version;
-    return true;
-}
-
 bool save(const std::string &path, const World &world, std::uint8_t gameNumber, std::ostream &err)
 {
     FileError error;
@@ -44,7 +30,7 @@ static int runConvert(const Args &args, std::ostream &, std::ostream &err)
         return kUsageError;
     auto world = std::make_unique<World>();
     std::uint8_t game = 0;
-    if (!loadInto(args[0], *world, game, err))
+    if (!loadMap(args[0], *world, game, err))
         return kInputError;
     return save(args[1], *world, game, err) ? kOk : kInputError;
 }
@@ -56,7 +42,7 @@ static int runMerge(const Args &args, std::ostream &, std::ostream &err)
         return kUsageError;
     auto world = std::make_unique<World>();
     std::uint8_t game = 0;
-    if (!loadInto(p.positional[0], *world, game, err))
+    if (!loadMap(p.positional[0], *world, game, err))
         return kInputError;
     const MapReadResult r = mergeMapFile(p.positional[1], *world, game);
     if (!r.ok) {
@@ -72,7 +58,7 @@ static int runStats(const Args &args, std::ostream &out, std::ostream &err)
         return kUsageError;
     auto world = std::make_unique<World>();
     std::uint8_t game = 0;
-    if (!loadInto(args[0], *world, game, err))
+    if (!loadMap(args[0], *world, game, err))
         return kInputError;
     writeWithUnixLineEnds(out, mapStatisticsText(*world));
     out << '\n';
@@ -86,7 +72,7 @@ static int runInfo(const Args &args, std::ostream &out, std::ostream &err)
     auto world = std::make_unique<World>();
     std::uint8_t game = 0;
     int version = 0;
-    if (!loadInto(args[0], *world, game, err, &version))
+    if (!loadMap(args[0], *world, game, err, &version))
         return kInputError;
     int known = 0, notes = 0, settlements = 0, shops = 0, items = 0, dungeons = 0;
     for (int y = 1; y <= kMapSize; ++y)

@@ -41,11 +41,8 @@ static int runNotes(const Args &args, std::ostream &out, std::ostream &err)
 
     auto world = std::make_unique<World>();
     std::uint8_t game = 0;
-    const MapReadResult r = readMapFile(positional[0], *world, game);
-    if (!r.ok) {
-        err << "wayscribe-cli: cannot read map " << r.error.describe() << '\n';
+    if (!loadMap(positional[0], *world, game, err))
         return kInputError;
-    }
     ReportTable table = notesListTable(*world);
     fillNotesList(table, *world, filter);
     if (!applySortClicks(table, sorts, err))

@@ -80,11 +80,8 @@ static int runObjects(const Args &args, std::ostream &out, std::ostream &err)
 
     auto world = std::make_unique<World>();
     std::uint8_t game = 0;
-    const MapReadResult r = readMapFile(positional[0], *world, game);
-    if (!r.ok) {
-        err << "wayscribe-cli: cannot read map " << r.error.describe() << '\n';
+    if (!loadMap(positional[0], *world, game, err))
         return kInputError;
-    }
     CliPlatform platform(err);
     ReportTable table = objectsTable(*world);
     List_Update_All(table, *world, filters, platform);

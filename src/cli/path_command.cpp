@@ -81,11 +81,8 @@ static int runPath(const Args &args, std::ostream &out, std::ostream &err)
 
     auto world = std::make_unique<World>();
     ProgramState state;
-    const MapReadResult r = readMapFile(p.positional[0], *world, state.document.gameNumber);
-    if (!r.ok) {
-        err << "wayscribe-cli: cannot read map " << r.error.describe() << '\n';
+    if (!loadMap(p.positional[0], *world, state.document.gameNumber, err))
         return kInputError;
-    }
     setMovementCounter(*world, state.movement, true);
     state.movement.moveMode = *mode;
     for (const PathStep &step : steps) {

@@ -22,11 +22,8 @@ static int runQuestor(const Args &args, std::ostream &, std::ostream &err)
     auto world = std::make_unique<World>();
     ProgramState state;
     if (const std::string *map = p.option("--map")) {
-        const MapReadResult r = readMapFile(*map, *world, state.document.gameNumber);
-        if (!r.ok) {
-            err << "wayscribe-cli: cannot read map " << r.error.describe() << '\n';
+        if (!loadMap(*map, *world, state.document.gameNumber, err))
             return kInputError;
-        }
     }
     CliPlatform platform(err);
     const QuestorImportResult result = readQuestorMap(p.positional[0], *world, state, platform);

@@ -29,11 +29,8 @@ static int runRender(const Args &args, std::ostream &, std::ostream &err)
         p.option("--graphics") ? *p.option("--graphics") : executableFolder() + "/graphics";
 
     auto world = std::make_unique<World>();
-    const MapReadResult read = readMapFile(p.positional[0], *world, state.document.gameNumber);
-    if (!read.ok) {
-        err << "wayscribe-cli: cannot read map " << read.error.describe() << '\n';
+    if (!loadMap(p.positional[0], *world, state.document.gameNumber, err))
         return kInputError;
-    }
     TileSheet sheet;
     for (const std::string &error :
          {sheet.loadTileSet(graphics, state.options.graphicsSetName), sheet.loadMarkers(graphics)})

@@ -18,11 +18,8 @@ static int runRoute(const Args &args, std::ostream &out, std::ostream &err)
         return kUsageError;
     auto world = std::make_unique<World>();
     std::uint8_t game = 0;
-    const MapReadResult r = readMapFile(args[0], *world, game);
-    if (!r.ok) {
-        err << "wayscribe-cli: cannot read map " << r.error.describe() << '\n';
+    if (!loadMap(args[0], *world, game, err))
         return kInputError;
-    }
     ProgramState state;
     CliPlatform platform(err);
     const std::optional<std::string> text = findRoutes(*world, state, platform, args[1], args[2]);

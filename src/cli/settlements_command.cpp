@@ -19,11 +19,8 @@ static int runSettlements(const Args &args, std::ostream &out, std::ostream &err
         return kUsageError;
     auto world = std::make_unique<World>();
     std::uint8_t game = 0;
-    const MapReadResult r = readMapFile(p.positional[0], *world, game);
-    if (!r.ok) {
-        err << "wayscribe-cli: cannot read map " << r.error.describe() << '\n';
+    if (!loadMap(p.positional[0], *world, game, err))
         return kInputError;
-    }
     ReportTable table = settlementListTable(*world);
     List_Update_All(table, *world);
     if (!applySortClicks(table, sortOptionValues(p), err))

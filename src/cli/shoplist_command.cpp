@@ -33,11 +33,8 @@ static int runShoplist(const Args &args, std::ostream &out, std::ostream &err)
         return kUsageError;
     auto world = std::make_unique<World>();
     ProgramState state;
-    const MapReadResult r = readMapFile(args[0], *world, state.document.gameNumber);
-    if (!r.ok) {
-        err << "wayscribe-cli: cannot read map " << r.error.describe() << '\n';
+    if (!loadMap(args[0], *world, state.document.gameNumber, err))
         return kInputError;
-    }
     const long long n = indexValue(args[1]);
     if (!isSettlementIndex(n) || !world->settlement(static_cast<int>(n)).inUse) {
         err << "wayscribe-cli: settlement " << args[1] << " is not in use\n";

@@ -39,14 +39,6 @@ QPlainTextEdit *fixedPitchBox(const char *objectName, QWidget *parent)
     return box;
 }
 
-QPushButton *button(const char *objectName, const QString &caption, QWidget *parent)
-{
-    auto *b = new QPushButton(caption, parent);
-    b->setObjectName(objectName);
-    b->setAutoDefault(false);
-    return b;
-}
-
 } // namespace
 
 frmDungeon::frmDungeon(World &world, ProgramState &state, ChangeHistory &history, QWidget *mainWindow)
@@ -74,9 +66,9 @@ frmDungeon::frmDungeon(World &world, ProgramState &state, ChangeHistory &history
     txtRoomData = fixedPitchBox("txtRoomData", this);
     lblRoomData = buddyLabel("lblRoomData", "Room Data/Notes:", txtRoomData, this);
 
-    cmdLevelUp = button("cmdLevelUp", "Level Up", this);
-    cmdLevelDown = button("cmdLevelDown", "Level Down", this);
-    cmdExit = button("cmdExit", "Exit", this);
+    cmdLevelUp = pushButton("cmdLevelUp", "Level Up", this);
+    cmdLevelDown = pushButton("cmdLevelDown", "Level Down", this);
+    cmdExit = pushButton("cmdExit", "Exit", this);
 
     auto *fields = new QGridLayout;
     fields->addWidget(lblDungeonName, 0, 0);

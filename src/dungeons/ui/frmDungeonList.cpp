@@ -10,6 +10,8 @@
 #include "model/world.h"
 #include "settlements/ui/report_list_view.h"
 
+#include "shared/ui/labelled_fields.h"
+
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -18,18 +20,6 @@
 
 namespace wayscribe {
 
-namespace {
-
-QPushButton *button(const char *objectName, const QString &caption, QWidget *parent)
-{
-    auto *b = new QPushButton(caption, parent);
-    b->setObjectName(objectName);
-    b->setAutoDefault(false);
-    return b;
-}
-
-} // namespace
-
 frmDungeonList::frmDungeonList(World &world, ProgramState &state, Platform &platform, ChangeHistory &history,
                                WindowHost &host, QWidget *mainWindow)
     : SecondaryWindow(mainWindow, "frmDungeonList", "Dungeon List", Escape::Closes), world_(world),
@@ -37,10 +27,10 @@ frmDungeonList::frmDungeonList(World &world, ProgramState &state, Platform &plat
 {
     lstNotes = new ReportListView(dungeonListTable(world_), "Dungeons", this);
     lstNotes->setObjectName("lstNotes");
-    cmdGoto = button("cmdGoto", "View Dungeon", this);
-    cmdRemove = button("cmdRemove", "Remove Dungeon", this);
-    cmdRefresh = button("cmdRefresh", "Refresh List", this);
-    cmdExit = button("cmdExit", "Exit", this);
+    cmdGoto = pushButton("cmdGoto", "View Dungeon", this);
+    cmdRemove = pushButton("cmdRemove", "Remove Dungeon", this);
+    cmdRefresh = pushButton("cmdRefresh", "Refresh List", this);
+    cmdExit = pushButton("cmdExit", "Exit", this);
 
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(cmdGoto);

@@ -18,18 +18,6 @@
 
 namespace wayscribe {
 
-namespace {
-
-QPushButton *button(const char *objectName, const QString &caption, QWidget *parent)
-{
-    auto *b = new QPushButton(caption, parent);
-    b->setObjectName(objectName);
-    b->setAutoDefault(false);
-    return b;
-}
-
-} // namespace
-
 // The sector is taken when the editor opens: a second editor opened from
 // the notes database meanwhile moves SelX and SelY, and each editor still
 // stores into its own sector.
@@ -43,10 +31,10 @@ frmNote::frmNote(World &world, ProgramState &state, Platform &platform, ChangeHi
     txtNoteBox->setObjectName("txtNoteBox");
     txtNoteBox->setTabChangesFocus(true);
     lblNote = buddyLabel("lblNote", toQString(edit_.caption()), txtNoteBox, this);
-    cmdOK = button("cmdOK", "Okay", this);
-    cmdCancel = button("cmdCancel", "Cancel", this);
-    cmdClear = button("cmdClear", "Clear", this);
-    cmdSeeDungeon = button("cmdSeeDungeon", "Go to Dungeon", this);
+    cmdOK = pushButton("cmdOK", "Okay", this);
+    cmdCancel = pushButton("cmdCancel", "Cancel", this);
+    cmdClear = pushButton("cmdClear", "Clear", this);
+    cmdSeeDungeon = pushButton("cmdSeeDungeon", "Go to Dungeon", this);
 
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(cmdOK);

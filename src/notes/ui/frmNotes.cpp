@@ -27,14 +27,6 @@ namespace wayscribe {
 
 namespace {
 
-QPushButton *button(const char *objectName, const QString &caption, QWidget *parent)
-{
-    auto *b = new QPushButton(caption, parent);
-    b->setObjectName(objectName);
-    b->setAutoDefault(false);
-    return b;
-}
-
 QRadioButton *optionButton(const char *objectName, const QString &caption, QWidget *parent)
 {
     auto *b = new QRadioButton(caption, parent);
@@ -78,11 +70,11 @@ frmNotes::frmNotes(World &world, ProgramState &state, Platform &platform, Change
     filters->addWidget(Option1[1], 4, 1);
     filters->setColumnStretch(0, 1);
 
-    cmdGoto = button("cmdGoto", "Go To Note", this);
-    cmdEdit = button("cmdEdit", "Edit Note", this);
-    cmdRemove = button("cmdRemove", "Remove Note", this);
-    cmdRefresh = button("cmdRefresh", "Refresh List", this);
-    cmdExit = button("cmdExit", "Exit", this);
+    cmdGoto = pushButton("cmdGoto", "Go To Note", this);
+    cmdEdit = pushButton("cmdEdit", "Edit Note", this);
+    cmdRemove = pushButton("cmdRemove", "Remove Note", this);
+    cmdRefresh = pushButton("cmdRefresh", "Refresh List", this);
+    cmdExit = pushButton("cmdExit", "Exit", this);
 
     auto *buttons = new QVBoxLayout;
     buttons->addWidget(cmdGoto);

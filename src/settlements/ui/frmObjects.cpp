@@ -26,14 +26,6 @@ namespace wayscribe {
 
 namespace {
 
-QPushButton *button(const char *objectName, const QString &caption, QWidget *parent)
-{
-    auto *b = new QPushButton(caption, parent);
-    b->setObjectName(objectName);
-    b->setAutoDefault(false);
-    return b;
-}
-
 // The filter buttons carry no caption of their own: the label beside each
 // names it, for the eye and for a screen reader.
 template <typename Button>
@@ -106,9 +98,9 @@ frmObjects::frmObjects(const World &world, ViewState &view, Platform &platform, 
     for (QLabel *label : Frame1->findChildren<QLabel *>())
         label->installEventFilter(this);
 
-    cmdGoto = button("cmdGoto", "Goto Settlement", this);
-    cmdRefresh = button("cmdRefresh", "Refresh List", this);
-    cmdExit = button("cmdExit", "Exit", this);
+    cmdGoto = pushButton("cmdGoto", "Goto Settlement", this);
+    cmdRefresh = pushButton("cmdRefresh", "Refresh List", this);
+    cmdExit = pushButton("cmdExit", "Exit", this);
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(cmdGoto);
     buttons->addWidget(cmdRefresh);

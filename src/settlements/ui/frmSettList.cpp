@@ -6,6 +6,8 @@
 #include "view/settlement_finder.h"
 #include "view/view_navigation.h"
 
+#include "shared/ui/labelled_fields.h"
+
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -13,18 +15,6 @@
 #include <algorithm>
 
 namespace wayscribe {
-
-namespace {
-
-QPushButton *button(const char *objectName, const QString &caption, QWidget *parent)
-{
-    auto *b = new QPushButton(caption, parent);
-    b->setObjectName(objectName);
-    b->setAutoDefault(false);
-    return b;
-}
-
-} // namespace
 
 frmSettList::frmSettList(const World &world, ViewState &view, Platform &platform, QWidget *mainWindow)
     : SecondaryWindow(mainWindow, "frmSettList", "Settlement Listing", Escape::Closes), world_(world),
@@ -34,8 +24,8 @@ frmSettList::frmSettList(const World &world, ViewState &view, Platform &platform
     lstNotes->setObjectName("lstNotes");
     lstNotes->hide();
 
-    cmdGoto = button("cmdGoto", "Go to Settlement", this);
-    cmdExit = button("cmdExit", "Exit", this);
+    cmdGoto = pushButton("cmdGoto", "Go to Settlement", this);
+    cmdExit = pushButton("cmdExit", "Exit", this);
     auto *buttons = new QHBoxLayout;
     buttons->addWidget(cmdGoto);
     buttons->addStretch(1);

@@ -33,14 +33,6 @@ QLineEdit *box(const char *name, QWidget *parent)
     return edit;
 }
 
-QPushButton *button(const char *name, const QString &caption, QWidget *parent)
-{
-    auto *b = new QPushButton(caption, parent);
-    b->setObjectName(name);
-    b->setAutoDefault(false);
-    return b;
-}
-
 // A list hidden while empty keeps its place, so the window does not jump.
 ReportListView *list(const char *name, ReportTable table, const QString &accessibleName, QWidget *parent)
 {
@@ -116,10 +108,10 @@ frmSettlement::frmSettlement(World &world, ProgramState &state, Platform &platfo
     lstObjects->horizontalHeader()->setStretchLastSection(false);
     lstObjects->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
 
-    AddShop = button("AddShop", "Add shop", this);
-    AddObject = button("AddObject", "Add object", this);
-    cmdClip = button("cmdClip", "Clipboard", this);
-    ExitSet = button("ExitSet", "Exit", this);
+    AddShop = pushButton("AddShop", "Add shop", this);
+    AddObject = pushButton("AddObject", "Add object", this);
+    cmdClip = pushButton("cmdClip", "Clipboard", this);
+    ExitSet = pushButton("ExitSet", "Exit", this);
     txtClipboard = new QPlainTextEdit(this);
     txtClipboard->setObjectName("txtClipboard");
     txtClipboard->hide();

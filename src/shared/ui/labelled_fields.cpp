@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 
 namespace wayscribe {
 
@@ -20,6 +21,14 @@ QLineEdit *readOnlyBox(const char *objectName, QWidget *parent)
     box->setObjectName(objectName);
     box->setReadOnly(true);
     return box;
+}
+
+QPushButton *pushButton(const char *objectName, const QString &caption, QWidget *parent)
+{
+    auto *button = new QPushButton(caption, parent);
+    button->setObjectName(objectName);
+    button->setAutoDefault(false);
+    return button;
 }
 
 QCheckBox *checkBox(const char *objectName, const QString &caption, bool checked, QWidget *parent)

@@ -5,6 +5,7 @@
 class QCheckBox;
 class QLabel;
 class QLineEdit;
+class QPushButton;
 class QWidget;
 
 namespace wayscribe {
@@ -18,6 +19,10 @@ QLabel *buddyLabel(const char *objectName, const QString &caption, QWidget *budd
 // A box that shows a value and takes no typing; it still takes the focus,
 // so the value can be read and copied from the keyboard.
 QLineEdit *readOnlyBox(const char *objectName, QWidget *parent);
+
+// A button that Enter does not press unless it has the focus: Enter acts
+// only where a window gives it a meaning.
+QPushButton *pushButton(const char *objectName, const QString &caption, QWidget *parent);
 
 QCheckBox *checkBox(const char *objectName, const QString &caption, bool checked, QWidget *parent);
 
