@@ -73,6 +73,15 @@ bool contains(std::string_view text, std::string_view part)
     return text.find(part) != std::string_view::npos;
 }
 
+std::string oneLine(std::string_view text)
+{
+    std::string out(text);
+    for (char &c : out)
+        if (c == '\r' || c == '\n')
+            c = ' ';
+    return out;
+}
+
 std::string replaceAll(std::string_view text, std::string_view from, std::string_view to)
 {
     std::string out;

@@ -38,6 +38,10 @@ bool startsWith(std::string_view text, std::string_view prefix);
 bool contains(std::string_view text, std::string_view part);
 std::string replaceAll(std::string_view text, std::string_view from, std::string_view to);
 
+// A text for a one-line field (names, item fields): every CR and every LF
+// becomes a blank, so that the map file keeps one value per line.
+std::string oneLine(std::string_view text);
+
 // The numeric value of a text: blanks are skipped, the number is read up to
 // the first character that cannot continue it; no leading number gives 0.
 double textValue(std::string_view text);

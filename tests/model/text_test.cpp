@@ -43,6 +43,14 @@ TEST(Trim, RemovesBlanksOnlyNeverTabsOrLineBreaks)
     EXPECT_EQ(trimBlanks("\ta\r\n "), "\ta\r\n");
 }
 
+TEST(OneLine, EveryLineBreakCharacterBecomesABlankAndNothingElseChanges)
+{
+    EXPECT_EQ(oneLine("Iron\r\nSword"), "Iron  Sword");
+    EXPECT_EQ(oneLine("\ra\nb\r"), " a b ");
+    EXPECT_EQ(oneLine("\t\"@/@\""), "\t\"@/@\"") << "tabs, quotes and the note escape stay";
+    EXPECT_EQ(oneLine(std::string("a\0b", 3)), std::string("a\0b", 3));
+}
+
 TEST(Cuts, OneBasedAndACutThatCannotBeMadeIsEmpty)
 {
     EXPECT_EQ(leftChars("abc", 10), "abc");
