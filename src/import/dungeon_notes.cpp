@@ -68,7 +68,8 @@ void storeSighting(ReportImport &im, const DungeonSighting &sighting, const char
         levelsRaised = true;
     }
     // The record is named after the note, which may be an older one.
-    const std::string name(trimBlanks(midChars(note, 9, positionOf(note, ".") - 9)));
+    // A note may hold line breaks; a dungeon's name holds one line.
+    const std::string name(trimBlanks(oneLine(midChars(note, 9, positionOf(note, ".") - 9))));
     if (name.empty())
         return;
     storeDungeonRecord(im.world, name, sighting.levels, levelsRaised);

@@ -32,7 +32,7 @@ bool parseHeading(const ReportReader &in, std::string_view heading, SettlementHe
     if (openAt == 0)
         return false;
     const std::string_view name = midChars(heading, ofAt + 3, openAt - (ofAt + 3));
-    out.name = std::string(leftChars(name, 1)) + changeCase(midChars(name, 2), false);
+    out.name = oneLine(std::string(leftChars(name, 1)) + changeCase(midChars(name, 2), false));
     const long closeAt = positionOf(heading, ")", openAt + 1);
     const std::string_view number =
         closeAt == 0 ? midChars(heading, openAt + 1) : midChars(heading, openAt + 1, closeAt - openAt - 1);

@@ -48,7 +48,7 @@ void openShop(ReportImport &im, std::string_view field)
                        ? 0
                        : im.in.wholeNumber(leftChars(head, blankAt), std::numeric_limits<std::int16_t>::min(),
                                            std::numeric_limits<std::int16_t>::max(), "shop number");
-    r.shopName = std::string(trimBlanks(changeCase(trimRightBlanks(midChars(field, 4, 24)), true)));
+    r.shopName = std::string(trimBlanks(oneLine(changeCase(trimRightBlanks(midChars(field, 4, 24)), true))));
     r.itemCount = 0;
 }
 
@@ -62,8 +62,9 @@ void storeRow(ReportImport &im, long settlement, const ItemRow &row)
     const int n = static_cast<int>(settlement);
     const int shop = static_cast<int>(r.shopNumber);
     ShopTexts texts = im.world.shop(n, shop);
-    texts.item(r.itemCount, ItemField::Name) = row.name;
-    texts.item(r.itemCount, ItemField::Number) = row.number;
+    // A quoted row may span lines; the item's fields hold one line each.
+    texts.item(r.itemCount, ItemField::Name) = oneLine(row.name);
+    texts.item(r.itemCount, ItemField::Number) = oneLine(row.number);
     texts.item(r.itemCount, ItemField::Price) = formatPlain(row.price);
     texts.name = r.shopName;
     im.world.setShop(n, shop, texts);

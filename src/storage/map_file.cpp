@@ -81,12 +81,53 @@ void writeText(BufferedFileWriter &out, std::string_view text)
     out.write("\"\r\n");
 }
 
-void writeEscaped(BufferedFileWriter &out, std::string_view text)
+bool hasLineBreak(std::string_view text)
 {
-    if (text.find("\r\n") == std::string_view::npos)
+    return text.find_first_of("\r\n") != std::string_view::npos;
+}
+
+// A one-line field, trimmed. A line break that got past the importers would
+// end the line early and shift every value after it, so it goes out as a
+// blank; blanks made that way are trimmed like any other, so that the text
+// read back saves to the same line.
+void writeTrimmedLine(BufferedFileWriter &out, std::string_view text)
+{
+    if (!hasLineBreak(text))
+        writeText(out, trimBlanks(text));
+    else
+        writeText(out, trimBlanks(oneLine(text)));
+}
+
+void writeLine(BufferedFileWriter &out, std::string_view text)
+{
+    if (!hasLineBreak(text))
         writeText(out, text);
     else
-        writeText(out, replaceAll(text, "\r\n", "@/@"));
+        writeText(out, oneLine(text));
+}
+
+// A multi-line field: every line break goes out as "@/@", a lone CR or a
+// lone LF as well as CR LF, and reads back as CR LF.
+void writeEscaped(BufferedFileWriter &out, std::string_view text)
+{
+    if (!hasLineBreak(text)) {
+        writeText(out, text);
+        return;
+    }
+    std::string escaped;
+    escaped.reserve(text.size() + text.size() / 2);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\r') {
+            escaped += "@/@";
+            if (i + 1 < text.size() && text[i + 1] == '\n')
+                ++i;
+        } else if (text[i] == '\n') {
+            escaped += "@/@";
+        } else {
+            escaped += text[i];
+        }
+    }
+    writeText(out, escaped);
 }
 
 // The lines of a shop without any text; most shops of a map are such.
@@ -111,14 +152,14 @@ void writeBody(BufferedFileWriter &out, const World &world, std::uint8_t gameNum
             writeNumber(out, sec.terrain);
             writeEscaped(out, trimBlanks(sec.note));
             writeNumber(out, sec.settlementNumber);
-            writeText(out, trimBlanks(sec.settlementName));
+            writeTrimmedLine(out, sec.settlementName);
         }
     for (int n = 1; n <= kMaxSettlements; ++n) {
         const Settlement &st = world.settlement(n);
         writeNumber(out, st.inUse);
         writeNumber(out, st.x);
         writeNumber(out, st.y);
-        writeText(out, st.cityState);
+        writeLine(out, st.cityState);
         for (int s = 0; s <= kMaxShop; ++s) {
             // Fields in file order: the name, then name, number and price of
             // items 1..20.
@@ -128,12 +169,12 @@ void writeBody(BufferedFileWriter &out, const World &world, std::uint8_t gameNum
                 continue;
             }
             for (int k = 0; k < PackedShop::kFieldCount; ++k)
-                writeText(out, trimBlanks(shop.field(k)));
+                writeTrimmedLine(out, shop.field(k));
         }
     }
     for (int d = 1; d <= kMaxDungeons; ++d) {
         const Dungeon &dg = world.dungeon(d);
-        writeText(out, dg.name);
+        writeLine(out, dg.name);
         writeSigned(out, dg.levels);
         for (int l = 1; l <= kLevelsPerDungeon; ++l) {
             writeEscaped(out, dg.level[l].map);

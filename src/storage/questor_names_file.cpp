@@ -135,7 +135,7 @@ bool readSettlementNames(NamesInput &in, World &world, int count)
                 continue;
             Sector &sector = world.sector(settlement.x, settlement.y);
             if (sector.settlementName == key) {
-                sector.settlementName = name;
+                sector.settlementName = oneLine(name);
                 break;
             }
         }
@@ -167,8 +167,9 @@ bool readShopNames(NamesInput &in, World &world, int count)
             continue;
         const int place = *found->second.begin();
         found->second.erase(found->second.begin());
-        world.setShopName(place / kQuestorLastShop + 1, place % kQuestorLastShop + 1, name);
-        file(name, place);
+        const std::string shopName = oneLine(name);
+        world.setShopName(place / kQuestorLastShop + 1, place % kQuestorLastShop + 1, shopName);
+        file(shopName, place);
     }
     return true;
 }
@@ -245,7 +246,7 @@ bool readSpecialItemNames(NamesInput &in, World &world, int count)
             continue;
         const ItemPlace place = found->second.front();
         found->second.pop_front();
-        world.setItem(place.settlement, place.shop, place.item, ItemField::Name, name);
+        world.setItem(place.settlement, place.shop, place.item, ItemField::Name, oneLine(name));
         world.setQuestorNameIndex(place.settlement, place.shop, place.item, 0);
     }
     return true;
@@ -275,7 +276,7 @@ bool readQuestorNamesFile(const std::string &path, World &world, ProgramState &s
     for (int number = kQuestorFirstItem; number <= kQuestorLastItem; ++number) {
         if (!in.read(name, "900 item names"))
             return false;
-        world.questorItemName(number) = name;
+        world.questorItemName(number) = oneLine(name);
     }
     nameItems(world);
     if (special &&
