@@ -10,16 +10,38 @@
 #include "storage/map_merge.h"
 #include "storage/options_file.h"
 
+#include <cstdint>
+
 namespace wayscribe {
 
-bool Load_Map(World &world, ProgramState &state, Platform &platform, const std::string &name)
+namespace {
+
+void reportFailedLoad(Platform &platform, const MapReadResult &result)
+{
+    const bool partlyRead = result.error.line > 2;
+    // A file without a map header is read as a map from before headers, so
+    // any other file ends up here: say that first, the line only after.
+    const std::string notAMap =
+        result.version == 0 && result.error.line > 1 ? "The file does not look like a Wayscribe map. " : "";
+    platform.message(notAMap + (partlyRead
+                                    ? "The map file could not be read completely. Everything up to the "
+                                      "broken line has been loaded; the rest of the map is as it was."
+                                    : "The map file could not be read. The map is as it was."),
+                     kProgramTitle, MessageButtons::Ok, MessageIcon::Exclamation, result.error.describe());
+}
+
+} // namespace
+
+LoadResult Load_Map(World &world, ProgramState &state, Platform &platform, const std::string &name)
 {
     std::string path = name;
     if (path.empty()) {
         path = platform.chooseOpenFile({"Load Map File...", kMapFileFilter, state.options.lastFile, ""});
         if (path.empty())
-            return false;
+            return LoadResult::Cancelled;
     }
+    const std::string previousName = state.document.mapFileName;
+    const std::uint8_t changedBefore = state.document.mapChanged;
     state.document.mapChanged = 0;
     FileJob job(state.document, platform, "Please wait, loading map...");
     state.document.mapFileName = path;
@@ -30,25 +52,28 @@ bool Load_Map(World &world, ProgramState &state, Platform &platform, const std::
     const MapReadResult result = readMapFile(path, world, state.document.gameNumber);
     job.finish();
     if (!result.ok) {
-        // The model now mixes the old map with the part of the file that
-        // could be read: keep it marked as changed so that nothing is
-        // discarded without a question.
+        reportFailedLoad(platform, result);
         const bool partlyRead = result.error.line > 2;
-        state.document.mapChanged = partlyRead ? 1 : state.document.mapChanged;
-        platform.message(
-            partlyRead ? "The map file could not be read completely. Everything up to the broken "
-                         "line has been loaded; the rest of the map is as it was."
-                       : "The map file could not be read. The map is as it was.",
-            kProgramTitle, MessageButtons::Ok, MessageIcon::Exclamation, result.error.describe());
+        if (partlyRead) {
+            // The model now mixes the old map with the part of the file that
+            // could be read, which no file holds: keep it marked as changed,
+            // and without a file, so that Save asks where to put it rather
+            // than overwrite the file that failed.
+            state.document.mapChanged = 1;
+            state.document.mapFileName.clear();
+        } else {
+            state.document.mapChanged = changedBefore;
+            state.document.mapFileName = previousName;
+        }
         platform.redrawMap();
-        return false;
+        return partlyRead ? LoadResult::Partial : LoadResult::Unread;
     }
     if (state.options.loadLock) {
         state.document.mapLocked = 1;
         platform.mapLockChanged();
     }
     platform.redrawMap();
-    return true;
+    return LoadResult::Complete;
 }
 
 bool Save_Map(World &world, ProgramState &state, Platform &platform, bool chooseFile)
@@ -92,8 +117,9 @@ void newMapCommand(World &world, ProgramState &state, Platform &platform)
         NewMap(world, state, platform);
 }
 
-void loadMapCommand(World &world, ProgramState &state, Platform &platform, bool fromMenu)
+LoadResult loadMapCommand(World &world, ProgramState &state, Platform &platform, bool fromMenu)
 {
+    const std::uint8_t changedBefore = state.document.mapChanged;
     if (state.document.mapChanged == 1) {
         const Answer a =
             fromMenu ? platform.message("Are you sure you wish to load a new map without saving?", "Sure?",
@@ -103,8 +129,14 @@ void loadMapCommand(World &world, ProgramState &state, Platform &platform, bool 
         if (a == Answer::Yes)
             state.document.mapChanged = 0;
     }
-    if (state.document.mapChanged == 0)
-        Load_Map(world, state, platform, "");
+    if (state.document.mapChanged != 0)
+        return LoadResult::Cancelled;
+    const LoadResult result = Load_Map(world, state, platform, "");
+    // Agreeing to drop the changes was for a load that did not happen: the
+    // map still holds them.
+    if (result == LoadResult::Cancelled || result == LoadResult::Unread)
+        state.document.mapChanged = changedBefore;
+    return result;
 }
 
 bool confirmExit(World &world, ProgramState &state, Platform &platform)

@@ -12,9 +12,16 @@ class Platform;
 
 inline constexpr const char *kMapFileFilter = "Orven Mapper Files (*.om1)|*.om1";
 
-// Loads a map: `name` empty asks for a file first. True when a file was
-// read completely; a broken file is reported and what was read stays.
-bool Load_Map(World &world, ProgramState &state, Platform &platform, const std::string &name);
+enum class LoadResult {
+    Cancelled, // no file chosen: nothing changed
+    Complete,  // the file was read to its end and is the map's file now
+    Unread,    // the file could not be read at all: the map is as it was
+    Partial,   // reading stopped part-way: the map mixes both, and has no file
+};
+
+// Loads a map: `name` empty asks for a file first. A broken file is
+// reported and what was read stays.
+LoadResult Load_Map(World &world, ProgramState &state, Platform &platform, const std::string &name);
 
 // Saves the map; `chooseFile` asks for a file name (Save As, or Save of a
 // map that has none). True when the file was written. A failed save is
@@ -25,8 +32,9 @@ bool Save_Map(World &world, ProgramState &state, Platform &platform, bool choose
 void newMapCommand(World &world, ProgramState &state, Platform &platform);
 
 // The Load Map button (`fromMenu` false) and File, Open (true): the same
-// load after differently worded questions about a changed map.
-void loadMapCommand(World &world, ProgramState &state, Platform &platform, bool fromMenu);
+// load after differently worded questions about a changed map. A load that
+// changed nothing leaves the map marked as changed as it was before.
+LoadResult loadMapCommand(World &world, ProgramState &state, Platform &platform, bool fromMenu);
 
 // The exit question for a changed map. False when the person cancels the
 // exit; otherwise the map was saved or its changes dropped as they chose.

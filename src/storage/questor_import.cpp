@@ -1,9 +1,12 @@
 #include "storage/questor_import.h"
 
 #include "model/file_job.h"
+#include "model/file_paths.h"
 #include "model/platform.h"
 #include "model/program_state.h"
 #include "storage/questor_files.h"
+
+#include <cctype>
 
 namespace wayscribe {
 
@@ -16,7 +19,19 @@ std::string QuestorError::describe() const
 
 std::string questorNamesPath(const std::string &mapPath)
 {
-    return mapPath.substr(0, mapPath.size() < 3 ? 0 : mapPath.size() - 3) + "mp2";
+    const std::string stem = mapPath.substr(0, mapPath.size() < 3 ? 0 : mapPath.size() - 3);
+    const std::string extension = mapPath.substr(stem.size());
+    // Folders from a case-blind system often hold SAMPLE.MP1 with SAMPLE.MP2:
+    // the names file's extension follows the map file's case, letter by
+    // letter, and the other case is tried when that file is not there.
+    std::string sameCase = "mp2";
+    for (std::size_t i = 0; i < 2 && i < extension.size(); ++i)
+        if (std::isupper(static_cast<unsigned char>(extension[i])))
+            sameCase[i] = static_cast<char>(std::toupper(static_cast<unsigned char>(sameCase[i])));
+    if (fileExists(stem + sameCase))
+        return stem + sameCase;
+    const std::string otherCase = sameCase == "mp2" ? "MP2" : "mp2";
+    return fileExists(stem + otherCase) ? stem + otherCase : stem + sameCase;
 }
 
 QuestorImportResult readQuestorMap(const std::string &mapPath, World &world, ProgramState &state,

@@ -35,7 +35,9 @@ struct QuestorImportResult {
 };
 
 // The names file that belongs to a QuestOR map file: the same name with its
-// last three characters replaced by "mp2".
+// last three characters replaced by "mp2", in the case of the map file's
+// extension (SAMPLE.MP1 has SAMPLE.MP2), or in the other case when only
+// that file exists.
 std::string questorNamesPath(const std::string &mapPath);
 
 // Reads a QuestOR map (the .mp1 file and the .mp2 file beside it) into the

@@ -36,7 +36,7 @@ TEST(LoadMap, RemembersTheMapInTheOptionsAndLocksWhenAsked)
     f.state.document.mapChanged = 1;
     f.state.options.loadLock = true;
     f.platform.files.push_back(path);
-    ASSERT_TRUE(Load_Map(*f.world, f.state, f.platform, ""));
+    ASSERT_EQ(Load_Map(*f.world, f.state, f.platform, ""), LoadResult::Complete);
     ASSERT_EQ(f.platform.dialogs.size(), 1u);
     EXPECT_EQ(f.platform.dialogs[0].title, "Load Map File...");
     EXPECT_EQ(f.platform.dialogs[0].filter, "Orven Mapper Files (*.om1)|*.om1");
@@ -58,19 +58,60 @@ TEST(LoadMap, CancelChangesNothingAndABrokenFileIsReported)
 {
     Fixture f;
     f.state.document.mapChanged = 1;
-    EXPECT_FALSE(Load_Map(*f.world, f.state, f.platform, ""));
+    EXPECT_EQ(Load_Map(*f.world, f.state, f.platform, ""), LoadResult::Cancelled);
     EXPECT_EQ(f.state.document.mapChanged, 1);
     EXPECT_TRUE(f.platform.statuses.empty());
 
     writeFile(f.dir.file("bad.om1"), "\"v017\"\r\n7\r\n300\r\n");
     f.state.document.mapChanged = 0;
-    EXPECT_FALSE(Load_Map(*f.world, f.state, f.platform, f.dir.file("bad.om1")));
+    EXPECT_EQ(Load_Map(*f.world, f.state, f.platform, f.dir.file("bad.om1")), LoadResult::Partial);
     ASSERT_EQ(f.platform.messages.size(), 1u);
     EXPECT_NE(f.platform.messages[0].detail.find("bad.om1, line 3"), std::string::npos);
     EXPECT_EQ(f.state.document.gameNumber, 7) << "what was read stays";
     EXPECT_EQ(f.state.document.fileBusy, 0);
     EXPECT_FALSE(f.platform.waitCursor);
     EXPECT_EQ(f.state.document.mapChanged, 1) << "a half-loaded map is not discarded silently";
+    EXPECT_EQ(f.state.document.mapFileName, "") << "the next Save asks rather than overwrite the broken file";
+}
+
+TEST(LoadMap, AFileThatIsNoMapIsNamedSoAndNeverBecomesTheSaveTarget)
+{
+    Fixture f;
+    const std::string map = f.saved("w.om1");
+    ASSERT_EQ(Load_Map(*f.world, f.state, f.platform, map), LoadResult::Complete);
+    writeFile(f.dir.file("notes.txt"), "Shopping list\r\n12\r\nmilk\r\n");
+    EXPECT_EQ(Load_Map(*f.world, f.state, f.platform, f.dir.file("notes.txt")), LoadResult::Partial);
+    ASSERT_EQ(f.platform.messages.size(), 1u);
+    EXPECT_EQ(f.platform.messages[0].text.rfind("The file does not look like a Wayscribe map. ", 0), 0u);
+    EXPECT_NE(f.platform.messages[0].detail.find("notes.txt, line 4"), std::string::npos);
+    EXPECT_EQ(f.state.document.gameNumber, 12) << "still read as a map from before headers";
+    EXPECT_EQ(f.state.document.mapFileName, "");
+    EXPECT_EQ(f.state.document.mapChanged, 1);
+    EXPECT_EQ(f.state.options.wmol, f.dir.file("notes.txt")) << "the options were written before reading";
+
+    // Save now asks for a name; the file that failed keeps its contents.
+    f.platform.files.push_back(f.dir.file("mixed.om1"));
+    EXPECT_TRUE(Save_Map(*f.world, f.state, f.platform, f.state.document.mapFileName.empty()));
+    EXPECT_EQ(readFile(f.dir.file("notes.txt")), "Shopping list\r\n12\r\nmilk\r\n");
+}
+
+TEST(LoadMap, AFileThatCannotBeReadLeavesTheMapItsNameAndItsChangesAsTheyWere)
+{
+    Fixture f;
+    const std::string map = f.saved("w.om1");
+    ASSERT_EQ(Load_Map(*f.world, f.state, f.platform, map), LoadResult::Complete);
+    f.state.document.mapChanged = 1;
+    f.platform.answers = {Answer::Yes};
+    f.platform.files.push_back(f.dir.file("missing.om1"));
+    EXPECT_EQ(loadMapCommand(*f.world, f.state, f.platform, true), LoadResult::Unread);
+    EXPECT_EQ(f.state.document.mapFileName, map);
+    EXPECT_EQ(f.state.document.mapChanged, 1) << "the changes the person agreed to drop are still there";
+    EXPECT_NE(f.platform.messages.back().text.find("could not be read. The map is as it was."),
+              std::string::npos);
+
+    f.platform.answers = {Answer::Yes};
+    EXPECT_EQ(loadMapCommand(*f.world, f.state, f.platform, false), LoadResult::Cancelled);
+    EXPECT_EQ(f.state.document.mapChanged, 1);
 }
 
 TEST(SaveMap, AsksForANameOnlyWhenItHasToAndBeforeOverwriting)

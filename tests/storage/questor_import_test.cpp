@@ -241,5 +241,23 @@ TEST_F(QuestorImportTest, TheKeptSampleMapImportsAsItWasWritten)
     EXPECT_EQ(item(75, 20, 2, ItemField::Price), " 3");
 }
 
+TEST_F(QuestorImportTest, TheNamesFileFollowsTheCaseOfTheMapFilesExtension)
+{
+    // Only SAMPLE.MP2 beside SAMPLE.MP1: an upper-case pair imports whole.
+    QuestorMapWriter mp1;
+    mp1.finishTerrain(3);
+    test::writeFile(dir.file("SAMPLE.MP1"), mp1.bytes());
+    test::writeFile(dir.file("SAMPLE.MP2"), QuestorNamesWriter().text());
+    EXPECT_EQ(questorNamesPath(dir.file("SAMPLE.MP1")), dir.file("SAMPLE.MP2"));
+    EXPECT_TRUE(readQuestorMap(dir.file("SAMPLE.MP1"), *world, state, platform).ok);
+
+    // The other case when the same case is not there; the same case when
+    // neither is, so that the message names the file looked for.
+    test::writeFile(dir.file("mixed.MP1"), mp1.bytes());
+    test::writeFile(dir.file("mixed.mp2"), QuestorNamesWriter().text());
+    EXPECT_EQ(questorNamesPath(dir.file("mixed.MP1")), dir.file("mixed.mp2"));
+    EXPECT_EQ(questorNamesPath(dir.file("alone.Mp1")), dir.file("alone.Mp2"));
+}
+
 } // namespace
 } // namespace wayscribe
