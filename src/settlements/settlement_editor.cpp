@@ -273,7 +273,7 @@ std::vector<ShopRow> SettlementEditor::shops() const
     return shopRows(world_, shopSettlement());
 }
 
-std::vector<ItemRow> SettlementEditor::refreshObjects()
+std::vector<ShopItemRow> SettlementEditor::refreshObjects()
 {
     const int s = shopSettlement();
     const int shop = state_.selection.selShop;
@@ -285,7 +285,7 @@ std::vector<ItemRow> SettlementEditor::refreshObjects()
     return itemRows(world_, s, shop);
 }
 
-std::vector<ItemRow> SettlementEditor::selectShop(const std::string &rowNumberText)
+std::vector<ShopItemRow> SettlementEditor::selectShop(const std::string &rowNumberText)
 {
     state_.selection.selShop = static_cast<std::int16_t>(indexValue(leftChars(rowNumberText, 3)));
     return refreshObjects();

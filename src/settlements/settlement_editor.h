@@ -70,9 +70,9 @@ public:
 
     std::vector<ShopRow> shops() const;
     // Refresh_Objects: tidies the items of SelShop and counts them.
-    std::vector<ItemRow> refreshObjects();
+    std::vector<ShopItemRow> refreshObjects();
     // A shop row was chosen by its "#" text.
-    std::vector<ItemRow> selectShop(const std::string &rowNumberText);
+    std::vector<ShopItemRow> selectShop(const std::string &rowNumberText);
 
     // "Add shop": proposes a number and opens the shop dialog on it.
     void addShop();

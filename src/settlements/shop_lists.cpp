@@ -60,9 +60,9 @@ int compactShopItems(World &world, int s, int shop)
     return static_cast<int>(kept.size());
 }
 
-std::vector<ItemRow> itemRows(const World &world, int s, int shop)
+std::vector<ShopItemRow> itemRows(const World &world, int s, int shop)
 {
-    std::vector<ItemRow> rows;
+    std::vector<ShopItemRow> rows;
     for (int i = 1; i <= kItemsPerShop; ++i) {
         const std::string_view name = trimmedItem(world, s, shop, i, ItemField::Name);
         if (name.empty())

@@ -14,7 +14,7 @@ struct ShopRow {
 };
 
 // A row of the settlement editor's object list; row k shows item slot k.
-struct ItemRow {
+struct ShopItemRow {
     std::string item;  // trimmed name, " (", trimmed number, ")"
     std::string price; // as stored
 };
@@ -29,7 +29,7 @@ std::vector<ShopRow> shopRows(const World &world, int s);
 int compactShopItems(World &world, int s, int shop);
 
 // The object list of a shop whose items are compacted.
-std::vector<ItemRow> itemRows(const World &world, int s, int shop);
+std::vector<ShopItemRow> itemRows(const World &world, int s, int shop);
 
 // The number "Add shop" proposes: the lowest shop 20..99 whose name is
 // exactly empty, 20 when all of them have one.

@@ -267,7 +267,7 @@ TEST_F(Editor, TheTwentyFirstItemAndDeletingItems)
     platform.answers = {Answer::Yes};
     EXPECT_TRUE(editor->deleteItem(3));
     EXPECT_EQ(lastMessage(), "Really delete this object?");
-    const std::vector<ItemRow> rows = editor->refreshObjects();
+    const std::vector<ShopItemRow> rows = editor->refreshObjects();
     ASSERT_EQ(rows.size(), 19u);
     EXPECT_EQ(rows[2].item, "Item 4 (4)");
     EXPECT_EQ(world->item(12, 20, 20, ItemField::Number), "");

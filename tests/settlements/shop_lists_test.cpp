@@ -76,7 +76,7 @@ TEST(ShopLists, RowsCompactionAndTheProposedShopNumber)
     for (int i = 3; i <= kItemsPerShop; ++i)
         for (ItemField f : {ItemField::Name, ItemField::Number, ItemField::Price})
             EXPECT_EQ(w->item(3, 20, i, f), "") << i;
-    const std::vector<ItemRow> items = itemRows(*w, 3, 20);
+    const std::vector<ShopItemRow> items = itemRows(*w, 3, 20);
     ASSERT_EQ(items.size(), 2u);
     EXPECT_EQ(items[0].item, "Bow (12)");
     EXPECT_EQ(items[0].price, " 30");

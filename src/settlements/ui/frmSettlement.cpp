@@ -99,7 +99,7 @@ frmSettlement::frmSettlement(World &world, ProgramState &state, Platform &platfo
     lstObjects = list("lstObjects",
                       ReportTable({{"Item", 2638}, {"Price", 738, ColumnAlignment::Right}},
                                   [this](std::uint32_t row, int column, std::string &out) {
-                                      const ItemRow &item = itemRows_.at(row);
+                                      const ShopItemRow &item = itemRows_.at(row);
                                       out += column == 1 ? item.item : item.price;
                                   }),
                       "Objects in shop", this);
@@ -210,7 +210,7 @@ void frmSettlement::Refresh_Shops()
             lstShops->selectRow(static_cast<int>(r));
 }
 
-void frmSettlement::showObjects(std::vector<ItemRow> rows)
+void frmSettlement::showObjects(std::vector<ShopItemRow> rows)
 {
     itemRows_ = std::move(rows);
     lstObjects->refill([this](ReportTable &table) {

@@ -39,7 +39,7 @@ protected:
 
 private:
     void Refresh_Shops();
-    void showObjects(std::vector<ItemRow> rows);
+    void showObjects(std::vector<ShopItemRow> rows);
     void Refresh_Objects();
     void refreshLists();
     void SetNum_LostFocus();
@@ -56,7 +56,7 @@ private:
     World &world_;
     SettlementEditor editor_;
     std::vector<ShopRow> shopRows_;
-    std::vector<ItemRow> itemRows_;
+    std::vector<ShopItemRow> itemRows_;
 
     QMenuBar *menuBar = nullptr;
     QMenu *mnuOptions = nullptr;
