@@ -81,9 +81,14 @@ void writeText(BufferedFileWriter &out, std::string_view text)
     out.write("\"\r\n");
 }
 
+// Runs for every text of the file, so a plain loop rather than
+// find_first_of's general character set search.
 bool hasLineBreak(std::string_view text)
 {
-    return text.find_first_of("\r\n") != std::string_view::npos;
+    for (const char c : text)
+        if (c == '\n' || c == '\r')
+            return true;
+    return false;
 }
 
 // A one-line field, trimmed. A line break that got past the importers would
@@ -110,24 +115,19 @@ void writeLine(BufferedFileWriter &out, std::string_view text)
 // lone LF as well as CR LF, and reads back as CR LF.
 void writeEscaped(BufferedFileWriter &out, std::string_view text)
 {
-    if (!hasLineBreak(text)) {
-        writeText(out, text);
-        return;
-    }
-    std::string escaped;
-    escaped.reserve(text.size() + text.size() / 2);
+    out.write("\"");
+    std::size_t start = 0;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '\r') {
-            escaped += "@/@";
-            if (i + 1 < text.size() && text[i + 1] == '\n')
-                ++i;
-        } else if (text[i] == '\n') {
-            escaped += "@/@";
-        } else {
-            escaped += text[i];
-        }
+        if (text[i] != '\r' && text[i] != '\n')
+            continue;
+        out.write(text.substr(start, i - start));
+        out.write("@/@");
+        if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n')
+            ++i;
+        start = i + 1;
     }
-    writeText(out, escaped);
+    out.write(text.substr(start));
+    out.write("\"\r\n");
 }
 
 // The lines of a shop without any text; most shops of a map are such.
