@@ -118,6 +118,9 @@ void Orvens_Mapper::buildCentre()
             [this](int x, int y) { sectorPanel_->showSector(world_, x, y, state_.movement.moveMode); });
     clicks_ = new MapClicks(world_, state_, platform_, *history_, *mapView_, this);
     connect(mapView_, &MapView::sectorClicked, clicks_, &MapClicks::Picture1_Click);
+    // Connected after the click handler, so it runs after it: a declined
+    // brush stroke still marks the map as changed.
+    connect(mapView_, &MapView::sectorClicked, this, &Orvens_Mapper::followDocument);
     connect(clicks_, &MapClicks::counterChanged, this, &Orvens_Mapper::counterChanged);
     connect(clicks_, &MapClicks::editorRequested, this, &Orvens_Mapper::openEditor);
     connect(palette_, &TerrainPalette::terrainChosen, this,
@@ -156,8 +159,27 @@ void Orvens_Mapper::refreshUndoItems()
 
 void Orvens_Mapper::worldChanged()
 {
+    followDocument();
+    // Editors mark the map as changed after their step has been kept: look
+    // again once they are done.
+    QTimer::singleShot(0, this, &Orvens_Mapper::followDocument);
+}
+
+void Orvens_Mapper::followDocument()
+{
     refreshUndoItems();
     updateTitle();
+}
+
+void Orvens_Mapper::openMap(bool fromMenu)
+{
+    // A load that stops part-way overwrites part of the map: it is one undo
+    // step, so that the map from before can come back. A complete load is
+    // another map, to which the old steps do not apply.
+    LoadResult result = LoadResult::Cancelled;
+    history_->apply("Open Map", [&] { result = loadMapCommand(world_, state_, platform_, fromMenu); });
+    if (result == LoadResult::Complete)
+        history_->clear();
 }
 
 void Orvens_Mapper::counterChanged(const CounterUpdate &update)

@@ -73,6 +73,11 @@ private:
     bool loadPictures();
     void setMapLocked(bool locked);
     void updateTitle();
+    // The title's star and the undo items follow the document: run after
+    // every command, map click and change of the world.
+    void followDocument();
+    // File, Open and the Load Map button (`fromMenu` false).
+    void openMap(bool fromMenu);
     void showAbout();
     void worldChanged();
     void refreshUndoItems();
@@ -84,7 +89,7 @@ private:
     // editor in one of its boxes (none when `boxText` is empty).
     void openRouteFinder(const QString &boxText, bool asDestination);
     // The commands that change the world, as undo steps; the commands that
-    // replace the map (New, Open) empty the history.
+    // replace the map (New) empty the history.
     std::function<void()> undoable(const char *name, std::function<void()> command);
     std::function<void()> replacing(std::function<void()> command);
 

@@ -62,12 +62,8 @@ void Orvens_Mapper::buildCommands()
     const auto save = [this] {
         const std::string &name = state_.document.mapFileName;
         Save_Map(world_, state_, platform_, name.find_first_of("/\\") == std::string::npos);
-        updateTitle();
     };
-    const auto saveAs = [this] {
-        Save_Map(world_, state_, platform_, true);
-        updateTitle();
-    };
+    const auto saveAs = [this] { Save_Map(world_, state_, platform_, true); };
     // The lock's two controls: each shows the new state once it is clicked.
     const auto lockFrom = [this](const char *control) {
         return [this, control] { setMapLocked(commands_->action(control)->isChecked()); };
@@ -86,7 +82,7 @@ void Orvens_Mapper::buildCommands()
             {"mnuFileQuestor", "Import &QuestOR",
              undoable("Import QuestOR", [&w, &s, &p] { importQuestorCommand(w, s, p); }), busyGuarded},
             Command::separator("mnuFileSep1"),
-            {"mnuFileOpen", "&Open", replacing([&w, &s, &p] { loadMapCommand(w, s, p, true); }), busyGuarded},
+            {"mnuFileOpen", "&Open", [this] { openMap(true); }, busyGuarded},
             {"mnuFileSave", "&Save", save, busyGuarded},
             {"mnuFileSaveAs", "Save &As", saveAs, busyGuarded},
             {"mnuFileMerge", "&Merge Map", undoable("Merge Map", [&w, &s, &p] { mergeMapCommand(w, s, p); })},
@@ -165,7 +161,7 @@ void Orvens_Mapper::buildCommands()
              .picture = "new.gif"},
             {.name = "cmdLoad",
              .caption = "Load Map",
-             .run = replacing([&w, &s, &p] { loadMapCommand(w, s, p, false); }),
+             .run = [this] { openMap(false); },
              .picture = "load.gif"},
             {.name = "cmdSave",
              .caption = "Save Map",
@@ -193,6 +189,12 @@ void Orvens_Mapper::buildCommands()
              .guard = busyGuarded,
              .picture = "gotosettlement.gif"},
         });
+    // Commands that only show a message (an import of another game's report)
+    // change the document without a redraw: after every command the title
+    // and the undo items follow it. Connected after the table's own
+    // connection, so this runs once the command is done.
+    for (QAction *action : findChildren<QAction *>(Qt::FindDirectChildrenOnly))
+        connect(action, &QAction::triggered, this, &Orvens_Mapper::followDocument);
 }
 
 } // namespace wayscribe

@@ -132,6 +132,38 @@ private slots:
         QVERIFY(!h.find<QAction>("mnuEditUndo")->isEnabled());
         QVERIFY(!h.window->history().canUndo());
     }
+
+    void aPartLoadIsOneStepAndNeverTheFileSaveWrites()
+    {
+        Harness h;
+        h.start({}, kExampleWorld);
+        const std::string before = savedBytes(h);
+        const std::string broken = h.dir.file("broken.om1");
+        const std::string cut = "\"v017\"\r\n7\r\n3\r\n\"\"\r\n0\r\n\"\"\r\n";
+        writeFile(broken, cut);
+        h.platform.files = {broken};
+        h.find<QAction>("mnuFileOpen")->trigger();
+        QVERIFY(h.window->windowTitle().startsWith("Untitled*"));
+        QCOMPARE(h.find<QAction>("mnuEditUndo")->text(), QString("&Undo Open Map"));
+        h.find<QAction>("mnuEditUndo")->trigger();
+        QCOMPARE(savedBytes(h), before);
+
+        // Save asks for a file rather than writing over the broken one.
+        h.find<QAction>("mnuFileSave")->trigger();
+        QCOMPARE(h.platform.dialogs.back().title, std::string("Save Map File As..."));
+        QCOMPARE(readFile(broken), cut);
+    }
+
+    void theTitleFollowsACommandThatOnlyShowsAMessage()
+    {
+        Harness h;
+        h.start({}, kExampleWorld);
+        QVERIFY(!h.window->windowTitle().contains('*'));
+        h.platform.files = {WAYSCRIBE_TEST_DATA "/reports/other_game.htm"};
+        h.find<QAction>("mnuFileImport")->trigger();
+        QCOMPARE(h.state.document.mapChanged, std::uint8_t{1});
+        QVERIFY(h.window->windowTitle().contains('*'));
+    }
 };
 
 QTEST_MAIN(UndoTest)
