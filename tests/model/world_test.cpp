@@ -70,7 +70,9 @@ TEST(World, NewMapClearsEveryTableAndTheSelections)
     EXPECT_EQ(s.document.gameNumber, 0);
     EXPECT_EQ(s.document.mapFileName, "");
     EXPECT_EQ(s.document.mapChanged, 1) << "New leaves the dirty flag to its caller";
-    EXPECT_EQ(s.selection.selX + s.selection.selY + s.selection.selSettlement + s.selection.selShop + s.selection.selNumber + s.selection.selDungeon, 0);
+    EXPECT_EQ(s.selection.selX + s.selection.selY + s.selection.selSettlement + s.selection.selShop +
+                  s.selection.selNumber + s.selection.selDungeon,
+              0);
     EXPECT_EQ(p.statuses, (std::vector<std::string>{"Please wait, clearing map...", ""}));
     EXPECT_EQ(p.redraws, 1);
 }
