@@ -3,12 +3,24 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace wayscribe {
 
 // The tile set a new options file starts with, and the one the program falls
 // back to when the chosen set cannot be loaded.
 inline constexpr const char *kDefaultTileSet = "kjc_set1";
+
+inline constexpr int kMaxRecentMaps = 8;
+inline constexpr int kMaxZoom = 4;
+inline constexpr int kDefaultAutosaveMinutes = 5;
+
+// What this program adds to the older options, in a section of its own.
+struct DesktopOptions {
+    int zoom = 1;                                  // 1..kMaxZoom screen pixels per tile pixel
+    int autosaveMinutes = kDefaultAutosaveMinutes; // 0: no autosave
+    std::vector<std::string> recentMaps;           // newest first, at most kMaxRecentMaps
+};
 
 // The player's preferences, kept in the options file between runs.
 struct Options {
@@ -25,6 +37,7 @@ struct Options {
     std::string lastImp;        // OptLastImp
     std::string lastFile;       // OptLastFile
     std::string graphicsSetName = kDefaultTileSet;
+    DesktopOptions desktop;
 };
 
 // The map as a file: where it lives, which game it belongs to, whether it

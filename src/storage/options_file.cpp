@@ -4,6 +4,7 @@
 #include "model/program_state.h"
 #include "model/text.h"
 #include "storage/atomic_file.h"
+#include "storage/desktop_options.h"
 
 #include <fstream>
 #include <limits>
@@ -73,9 +74,10 @@ void readOptionsFile(const std::string &path, ProgramState &state)
 {
     state.document.mapLocked = 0;
     Options &o = state.options;
-    o.graphicsSetName = "kjc_set1";
+    o.graphicsSetName = kDefaultTileSet;
     o.importMap = o.importShops = o.importHides = o.importDungeons = o.extra = true;
     o.loadLock = false;
+    o.desktop = DesktopOptions{};
 
     std::ifstream in(path, std::ios::binary);
     if (!in)
@@ -91,6 +93,7 @@ void readOptionsFile(const std::string &path, ProgramState &state)
             continue;
         applyOption(value, state);
     }
+    readDesktopOptions(text, o.desktop);
 }
 
 std::string optionsFileText(const ProgramState &state)
@@ -126,6 +129,7 @@ std::string optionsFileText(const ProgramState &state)
     line("LastImp = " + o.lastImp);
     line("LastFile = " + o.lastFile);
     line("");
+    t += desktopOptionsText(o.desktop);
     return t;
 }
 

@@ -1,4 +1,5 @@
 #include "model/program_state.h"
+#include "storage/desktop_options.h"
 #include "storage/options_file.h"
 #include "support/test_support.h"
 
@@ -90,7 +91,7 @@ TEST(OptionsFile, WritesTheFileLineByLineAndReadsItBack)
         "Dungeons = True\r\n\r\n[Graphics Set]\r\n# Default graphics set\r\nSet = kjc_set2\r\n"
         "Extra = True\r\n\r\n[Misc]\r\n# Misc options\r\nLoadLock = True\r\nLMOL = False\r\n"
         "WMOL = /home/p/world.om1\r\nXLEFT = 12\r\nYTOP = -3\r\nLastImp = /home/p/turns/\r\n"
-        "LastFile = \r\n\r\n");
+        "LastFile = \r\n\r\n[Desktop]\r\n# Desktop options\r\nZoom = 1\r\nAutosaveMinutes = 5\r\n\r\n");
     ProgramState back;
     readOptionsFile(s.optionsFilePath, back);
     EXPECT_FALSE(back.options.importHides);
@@ -103,4 +104,37 @@ TEST(OptionsFile, WritesTheFileLineByLineAndReadsItBack)
     s.optionsFilePath = dir.file("missing/folder/wayscribe.ini");
     EXPECT_FALSE(writeOptions(s, platform));
     EXPECT_NE(platform.statuses.back().find("missing/folder"), std::string::npos);
+}
+
+TEST(OptionsFile, DesktopSectionKeepsTheOlderLinesAndSurvivesAwkwardPaths)
+{
+    TempDir dir;
+    ProgramState s;
+    s.optionsFilePath = dir.file("wayscribe.ini");
+    s.options.desktop.zoom = 3;
+    s.options.desktop.autosaveMinutes = 0;
+    // A comma followed by a key name would otherwise be read as that key.
+    for (int i = 0; i < 10; ++i)
+        rememberRecentMap(s.options.desktop, "/maps/" + std::to_string(i) + ",Set = x%\"q\".om1");
+    rememberRecentMap(s.options.desktop, "/maps/3,Set = x%\"q\".om1");
+    ScriptedPlatform platform;
+    ASSERT_TRUE(writeOptions(s, platform));
+    const std::string text = readFile(s.optionsFilePath);
+    EXPECT_NE(text.find("LastFile = \r\n\r\n[Desktop]\r\n"), std::string::npos) << "after every older line";
+
+    ProgramState back;
+    readOptionsFile(s.optionsFilePath, back);
+    EXPECT_EQ(back.options.graphicsSetName, "kjc_set1");
+    EXPECT_EQ(back.options.desktop.zoom, 3);
+    EXPECT_EQ(back.options.desktop.autosaveMinutes, 0);
+    ASSERT_EQ(back.options.desktop.recentMaps.size(), 8u);
+    EXPECT_EQ(back.options.desktop.recentMaps[0], "/maps/3,Set = x%\"q\".om1") << "reopened moves to the top";
+    EXPECT_EQ(back.options.desktop.recentMaps[1], "/maps/9,Set = x%\"q\".om1");
+    EXPECT_EQ(back.options.desktop.recentMaps[7], "/maps/2,Set = x%\"q\".om1");
+
+    // Out-of-range values and keys outside the section are ignored.
+    back = readOptions(dir, "Zoom = 2\r\n[Desktop]\r\nZoom = 9\r\nAutosaveMinutes = -1\r\nRecent0 = /a\r\n");
+    EXPECT_EQ(back.options.desktop.zoom, 1);
+    EXPECT_EQ(back.options.desktop.autosaveMinutes, 5);
+    EXPECT_TRUE(back.options.desktop.recentMaps.empty());
 }
