@@ -25,6 +25,8 @@ AppPaths locateAppPaths()
         QDir().mkpath(config);
         paths.optionsFile = fromQString(config + "/" + kOptionsFileName);
     }
+    paths.recoveryFolder =
+        fromQString(QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) + "/recovery");
     return paths;
 }
 

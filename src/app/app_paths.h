@@ -11,6 +11,7 @@ struct AppPaths {
     std::string optionsFile;    // wayscribe.ini beside the program, or in the
                                 // person's configuration folder when that one
                                 // cannot be written
+    std::string recoveryFolder; // the autosave's copies; empty: no autosave
 };
 
 AppPaths locateAppPaths();
