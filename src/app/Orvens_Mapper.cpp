@@ -317,6 +317,7 @@ bool Orvens_Mapper::startUp(const std::string &mapToOpen)
     state_.movement = {};
     doc.fileBusy = 0;
     mapView_->measure();
+    showZoom();
     if (!mapToOpen.empty()) {
         // A map named on the command line opens like File, Open, in place of
         // the last map.

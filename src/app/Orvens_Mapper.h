@@ -78,6 +78,11 @@ private:
     void followDocument();
     // File, Open and the Load Map button (`fromMenu` false).
     void openMap(bool fromMenu);
+    // The zoom items of the View menu and File, Export Map Picture
+    // (view_commands.cpp).
+    void groupZoomCommands();
+    void showZoom();
+    void openExportPicture();
     void showAbout();
     void worldChanged();
     void refreshUndoItems();

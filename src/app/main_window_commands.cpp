@@ -22,6 +22,7 @@
 #include "view/map_tools.h"
 #include "view/movement_counter.h"
 #include "view/ui/frmGotoCity.h"
+#include "view/ui/map_view.h"
 #include "view/view_navigation.h"
 
 #include <QAction>
@@ -90,6 +91,8 @@ void Orvens_Mapper::buildCommands()
             {"mnuFileOptions", "O&ptions",
              [this] { host_->open(new frmOptions(state_, platform_, this), true); }},
             {"mnuFileExit", "E&xit", [this] { close(); }},
+            Command::separator("mnuFileSep3"),
+            {"mnuFileExportPicture", "Export Map Pic&ture...", [this] { openExportPicture(); }, busyGuarded},
         });
     commands_->addMenu(
         bar, "mnuEdit", "Edit",
@@ -124,7 +127,20 @@ void Orvens_Mapper::buildCommands()
                            {"mnuGotoCity", "Goto &City", openSettlementFinder, busyGuarded},
                            {"mnuViewNote", "Goto &Note", openNotes},
                            {"mnuViewGoto", "&Goto X Y", [&s, &p] { gotoXYCommand(s.view, p); }},
+                           Command::separator("mnuViewSep1"),
+                           {"mnuViewZoomIn", "Zoom &In", [this] { mapView_->zoomTo(mapView_->zoom() + 1); },
+                            busyGuarded, false, QKeySequence(Qt::CTRL | Qt::Key_Plus)},
+                           {"mnuViewZoomOut", "Zoom &Out", [this] { mapView_->zoomTo(mapView_->zoom() - 1); },
+                            busyGuarded, false, QKeySequence(Qt::CTRL | Qt::Key_Minus)},
+                           {"mnuViewActualSize", "&Actual Size", [this] { mapView_->zoomTo(1); }, busyGuarded,
+                            false, QKeySequence(Qt::CTRL | Qt::Key_0)},
+                           Command::separator("mnuViewSep2"),
+                           {"mnuViewZoom1", "&1x", [this] { mapView_->zoomTo(1); }, busyGuarded, true},
+                           {"mnuViewZoom2", "&2x", [this] { mapView_->zoomTo(2); }, busyGuarded, true},
+                           {"mnuViewZoom3", "&3x", [this] { mapView_->zoomTo(3); }, busyGuarded, true},
+                           {"mnuViewZoom4", "&4x", [this] { mapView_->zoomTo(4); }, busyGuarded, true},
                        });
+    groupZoomCommands();
     commands_->addMenu(
         bar, "mnuInformation", "Information",
         {

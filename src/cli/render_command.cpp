@@ -6,9 +6,9 @@
 #include "model/world.h"
 #include "storage/map_file.h"
 #include "view/draw/map_drawing.h"
+#include "view/draw/png_file.h"
 #include "view/draw/tile_sheet.h"
 
-#include <QFile>
 #include <QImage>
 
 #include <memory>
@@ -25,8 +25,7 @@ static int runRender(const Args &args, std::ostream &, std::ostream &err)
     ProgramState state; // Extra on, no movement path: what a freshly opened map shows
     if (const std::string *set = p.option("--set"))
         state.options.graphicsSetName = *set;
-    const std::string graphics =
-        p.option("--graphics") ? *p.option("--graphics") : executableFolder() + "/graphics";
+    const std::string graphics = p.option("--graphics") ? *p.option("--graphics") : graphicsFolder();
 
     auto world = std::make_unique<World>();
     if (!loadMap(p.positional[0], *world, state.document.gameNumber, err))
@@ -39,11 +38,9 @@ static int runRender(const Args &args, std::ostream &, std::ostream &err)
             return kInputError;
         }
 
-    const int side = kMapSize * TileSheet::kTileSize;
-    QImage picture(side, side, kMapPictureFormat);
-    drawSectors(picture, *world, state, sheet, {1, 1, kMapSize, kMapSize});
-    if (!picture.save(QFile::decodeName(out.c_str()), "PNG")) {
-        err << "wayscribe-cli: cannot write picture " << out << '\n';
+    std::string reason;
+    if (!writePngFile(areaPicture(*world, state, sheet, {1, 1, kMapSize, kMapSize}), out, reason)) {
+        err << "wayscribe-cli: cannot write picture " << out << ": " << reason << '\n';
         return kInputError;
     }
     return kOk;

@@ -6,10 +6,10 @@
 
 namespace wayscribe {
 
-std::optional<MapHit> hitTest(const ViewState &view, double px, double py)
+std::optional<MapHit> hitTest(const ViewState &view, double px, double py, int zoom)
 {
-    const double column = std::floor(px / 16) + 1;
-    const double row = std::floor(py / 16) + 1;
+    const double column = std::floor(px / sectorPixels(zoom)) + 1;
+    const double row = std::floor(py / sectorPixels(zoom)) + 1;
     if (column < 1 || row < 1 || column > view.viewCols || row > view.viewRows)
         return std::nullopt;
     const int c = static_cast<int>(column);

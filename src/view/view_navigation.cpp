@@ -4,8 +4,10 @@
 #include "model/program_state.h"
 #include "model/text.h"
 #include "model/world.h"
+#include "view/hit_test.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace wayscribe {
 
@@ -23,6 +25,24 @@ void clampView(ViewState &view)
 {
     view.viewLeft = clampedViewOrigin(view.viewLeft, view.viewCols);
     view.viewTop = clampedViewOrigin(view.viewTop, view.viewRows);
+}
+
+void fitView(ViewState &view, int width, int height, int zoom)
+{
+    view.viewCols = static_cast<std::int16_t>(std::clamp(width, 0, 32767) / sectorPixels(zoom));
+    view.viewRows = static_cast<std::int16_t>(std::clamp(height, 0, 32767) / sectorPixels(zoom));
+    clampView(view);
+}
+
+void zoomView(ViewState &view, int width, int height, int oldZoom, int newZoom, double anchorX,
+              double anchorY)
+{
+    // Where the anchor is in the world, in sectors from the world's edges.
+    const double worldX = view.viewLeft + anchorX / sectorPixels(oldZoom);
+    const double worldY = view.viewTop + anchorY / sectorPixels(oldZoom);
+    fitView(view, width, height, newZoom);
+    view.viewLeft = clampedViewOrigin(std::llround(worldX - anchorX / sectorPixels(newZoom)), view.viewCols);
+    view.viewTop = clampedViewOrigin(std::llround(worldY - anchorY / sectorPixels(newZoom)), view.viewRows);
 }
 
 void centreView(ViewState &view, Platform &platform, int x, int y)

@@ -20,6 +20,18 @@ std::int16_t clampedViewOrigin(long long origin, int visible);
 // Keeps the scroll origin inside the world for the current view size.
 void clampView(ViewState &view);
 
+// Fits the view to a map picture `width` x `height` screen pixels shown at
+// `zoom`: ViewCols and ViewRows count the whole sectors that fit, and the
+// origin is pulled back so that the view never runs past the world's last
+// sector.
+void fitView(ViewState &view, int width, int height, int zoom);
+
+// Fits the view to the picture at `newZoom` in place of `oldZoom`, keeping
+// the point of the world under screen pixel (anchorX, anchorY) where it is,
+// as far as the world's edges allow.
+void zoomView(ViewState &view, int width, int height, int oldZoom, int newZoom, double anchorX,
+              double anchorY);
+
 // Puts sector (x, y) in the middle of the view (as far as the world's edges
 // allow) and redraws. Coordinates outside the world are not refused: the
 // view goes to the nearest edge.

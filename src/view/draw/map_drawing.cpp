@@ -126,6 +126,15 @@ void drawSectors(QImage &picture, const World &world, const ProgramState &state,
     drawSectors(painter, canvas, world, state, sheet, area);
 }
 
+QImage areaPicture(const World &world, const ProgramState &state, const TileSheet &sheet,
+                   const SectorArea &area)
+{
+    QImage picture(std::max(area.cols, 1) * kTile, std::max(area.rows, 1) * kTile, kMapPictureFormat);
+    picture.fill(Qt::black);
+    drawSectors(picture, world, state, sheet, area);
+    return picture;
+}
+
 void drawMap(QImage &picture, const World &world, const ProgramState &state, const TileSheet &sheet)
 {
     if (!prepareMapPicture(picture))

@@ -48,6 +48,11 @@ bool prepareMapPicture(QImage &picture);
 void drawSectors(QImage &picture, const World &world, const ProgramState &state, const TileSheet &sheet,
                  const SectorArea &area);
 
+// A picture of just the area, 16 x 16 pixels a sector, drawn as above: what
+// the command line's render and File, Export Map Picture write.
+QImage areaPicture(const World &world, const ProgramState &state, const TileSheet &sheet,
+                   const SectorArea &area);
+
 // The visible part of the map (ViewLeft, ViewTop, ViewCols, ViewRows) and the
 // two border lines along its top and left.
 void drawMap(QImage &picture, const World &world, const ProgramState &state, const TileSheet &sheet);

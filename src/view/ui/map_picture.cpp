@@ -1,16 +1,22 @@
 #include "view/ui/map_picture.h"
 
 #include "view/draw/map_drawing.h"
+#include "view/draw/screen_painting.h"
 
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QWheelEvent>
+
+#include <algorithm>
 
 namespace wayscribe {
 
 namespace {
 const QColor kBackground(40, 40, 44);
-}
+constexpr int kWheelNotch = 120; // eighths of a degree
+} // namespace
 
 MapPicture::MapPicture(QWidget *parent) : QWidget(parent)
 {
@@ -22,27 +28,87 @@ MapPicture::MapPicture(QWidget *parent) : QWidget(parent)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     // The map can be scrolled from the keyboard once it has the focus.
     setFocusPolicy(Qt::StrongFocus);
+
+    hint_ = new QLabel("This map knows nothing yet. To begin:\n\n"
+                       "import a turn report (File > Import HTML),\n"
+                       "import a folder of reports (File > Batch Import HTML),\n"
+                       "or open a map (File > Open).",
+                       this);
+    hint_->setObjectName("lblEmptyMapHint");
+    hint_->setTextFormat(Qt::PlainText);
+    hint_->setAlignment(Qt::AlignCenter);
+    hint_->setStyleSheet("QLabel { color: #d8d8d8; background: rgba(0, 0, 0, 150); border-radius: 8px;"
+                         " padding: 14px 20px; }");
+    // Painting on the empty map goes on as though the hint were not there.
+    hint_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    hint_->hide();
 }
 
 void MapPicture::clearBuffer()
 {
-    buffer_ = QImage(size().expandedTo(QSize(1, 1)), kMapPictureFormat);
+    // Rounded up: a part of a tile at the edge still shows.
+    const QSize zoomed((width() + zoom_ - 1) / zoom_, (height() + zoom_ - 1) / zoom_);
+    buffer_ = QImage(zoomed.expandedTo(QSize(1, 1)), kMapPictureFormat);
     buffer_.fill(kBackground);
+}
+
+void MapPicture::setOutline(std::optional<QRect> tile)
+{
+    if (tile == outline_)
+        return;
+    if (outline_)
+        update(*outline_);
+    outline_ = tile;
+    if (outline_)
+        update(*outline_);
+}
+
+void MapPicture::setHintVisible(bool visible)
+{
+    if (visible == hint_->isVisible())
+        return;
+    hint_->setVisible(visible);
+    placeHint();
+}
+
+void MapPicture::placeHint()
+{
+    hint_->setMaximumWidth(std::max(width() - 24, 100));
+    hint_->adjustSize();
+    hint_->move((width() - hint_->width()) / 2, (height() - hint_->height()) / 2);
 }
 
 void MapPicture::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
-    // Tiles are pixel art: on a high-density screen they grow without blur.
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, false);
     painter.fillRect(event->rect(), kBackground);
-    painter.drawImage(QPoint(0, 0), buffer_);
+    // Tiles are pixel art: zoomed, or on a high-density screen, they grow
+    // without blur.
+    paintZoomed(painter, buffer_, zoom_, event->rect());
+    if (outline_)
+        paintSectorOutline(painter, *outline_);
 }
 
 void MapPicture::resizeEvent(QResizeEvent *event)
 {
     QWidget::resizeEvent(event);
+    placeHint();
     emit resized();
+}
+
+void MapPicture::wheelEvent(QWheelEvent *event)
+{
+    if (!(event->modifiers() & Qt::ControlModifier)) {
+        event->ignore();
+        return;
+    }
+    // A touchpad turns the wheel in small parts of a notch.
+    wheelAngle_ += event->angleDelta().y();
+    const int steps = wheelAngle_ / kWheelNotch;
+    wheelAngle_ -= steps * kWheelNotch;
+    if (steps != 0)
+        emit zoomWheel(steps, event->position());
+    event->accept();
 }
 
 void MapPicture::keyPressEvent(QKeyEvent *event)

@@ -4,6 +4,7 @@
 #include "model/world.h"
 #include "view/draw/click_drawing.h"
 #include "view/draw/map_drawing.h"
+#include "view/empty_world.h"
 #include "view/map_brush.h"
 #include "view/minimap_geometry.h"
 #include "view/ui/map_picture.h"
@@ -38,6 +39,8 @@ MapView::MapView(const World &world, ProgramState &state, const TileSheet &sheet
     connect(Picture1, &MapPicture::pointerMoved, this, &MapView::Picture1_MouseMove);
     connect(Picture1, &MapPicture::pressed, this, &MapView::Picture1_MouseDown);
     connect(Picture1, &MapPicture::clicked, this, &MapView::Picture1_Click);
+    connect(Picture1, &MapPicture::zoomWheel, this,
+            [this](int steps, QPointF pixel) { zoomTo(zoom() + steps, pixel); });
     connect(Picture1, &MapPicture::scrollRequested, this, [this](int dx, int dy, bool byHalfViews) {
         // Moving the scroll bars runs their own change handlers.
         hscroll->setValue(hscroll->value() + dx * (byHalfViews ? hscroll->pageStep() : 1));
@@ -51,14 +54,31 @@ void MapView::measure()
 {
     if (window()->isMinimized())
         return;
-    ViewState &view = state_.view;
-    view.viewCols = static_cast<std::int16_t>(std::min(Picture1->width(), 32767) / 16);
-    view.viewRows = static_cast<std::int16_t>(std::min(Picture1->height(), 32767) / 16);
     // Growing the window pulls the origin back so the view never runs past
     // the world's last sector.
-    clampView(view);
+    fitView(state_.view, Picture1->width(), Picture1->height(), zoom());
+    Picture1->setZoom(zoom());
     Picture1->clearBuffer();
     redraw();
+}
+
+int MapView::zoom() const
+{
+    return std::clamp(state_.options.desktop.zoom, 1, kMaxZoom);
+}
+
+void MapView::zoomTo(int zoom, std::optional<QPointF> anchor)
+{
+    zoom = std::clamp(zoom, 1, kMaxZoom);
+    if (zoom == this->zoom() || state_.document.fileBusy)
+        return;
+    const QPointF at = anchor.value_or(QPointF(Picture1->width() / 2.0, Picture1->height() / 2.0));
+    zoomView(state_.view, Picture1->width(), Picture1->height(), this->zoom(), zoom, at.x(), at.y());
+    state_.options.desktop.zoom = zoom;
+    Picture1->setZoom(zoom);
+    Picture1->clearBuffer();
+    redraw();
+    emit zoomChanged(zoom);
 }
 
 void MapView::syncScrollBars()
@@ -83,6 +103,22 @@ void MapView::redraw()
         emit minimapRedrawn(minimap_.image);
     }
     state_.view.fullRedraw = 0;
+    showOverlays();
+}
+
+void MapView::showOverlays()
+{
+    const ViewState &view = state_.view;
+    const Selections &selection = state_.selection;
+    const int column = selection.selX - view.viewLeft;
+    const int row = selection.selY - view.viewTop;
+    const int side = sectorPixels(zoom());
+    if (selection.selX != 0 && selection.selY != 0 && column >= 1 && row >= 1 && column <= view.viewCols &&
+        row <= view.viewRows)
+        Picture1->setOutline(QRect((column - 1) * side, (row - 1) * side, side, side));
+    else
+        Picture1->setOutline(std::nullopt);
+    Picture1->setHintVisible(worldIsEmpty(world_));
 }
 
 void MapView::showClick(const MapHit &hit, const SectorRepaint &repaint)
@@ -92,6 +128,7 @@ void MapView::showClick(const MapHit &hit, const SectorRepaint &repaint)
     finishMapClick(picture, minimap_, world_, state_);
     Picture1->update();
     emit minimapRedrawn(minimap_.image);
+    showOverlays();
 }
 
 void MapView::centreOnMinimapPoint(double x, double y)
@@ -107,7 +144,7 @@ void MapView::Picture1_MouseMove(QPoint pixel, bool buttonHeld)
     // With a button held the boxes keep what they show.
     if (buttonHeld)
         return;
-    if (const std::optional<MapHit> hit = hitTest(state_.view, pixel.x(), pixel.y())) {
+    if (const std::optional<MapHit> hit = hitTest(state_.view, pixel.x(), pixel.y(), zoom())) {
         hoverX_ = hit->x;
         hoverY_ = hit->y;
     }
@@ -122,7 +159,7 @@ void MapView::Picture1_MouseDown(int button, QPoint pixel)
 
 void MapView::Picture1_Click()
 {
-    if (const std::optional<MapHit> hit = hitTest(state_.view, lastPress_.x(), lastPress_.y()))
+    if (const std::optional<MapHit> hit = hitTest(state_.view, lastPress_.x(), lastPress_.y(), zoom()))
         emit sectorClicked(*hit, lastButton_);
 }
 

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include <cstdint>
+#include <optional>
 
 class QScrollBar;
 
@@ -33,9 +34,16 @@ public:
     // FullRedraw := 0.
     void redraw();
 
-    // Measures how many whole sectors fit the picture, keeps the origin
-    // inside the world, and redraws.
+    // Measures how many whole sectors fit the picture at the zoom, keeps the
+    // origin inside the world, and redraws.
     void measure();
+
+    // The zoom the options hold: screen pixels a tile pixel takes, 1..4.
+    int zoom() const;
+    // Shows the map at `zoom` (kept inside 1..4), keeping the sector under
+    // screen pixel `anchor` of the picture where it is, or else the middle of
+    // the view. Ignored while a file job runs.
+    void zoomTo(int zoom, std::optional<QPointF> anchor = std::nullopt);
 
     // What a map click draws: the clicked sector as `repaint` says (when it
     // says anything), then how every click ends: the border lines and the
@@ -54,9 +62,14 @@ signals:
     void sectorClicked(const wayscribe::MapHit &hit, int button);
     // The minimap picture was drawn anew.
     void minimapRedrawn(const QImage &image);
+    // The zoom changed; the options hold it already.
+    void zoomChanged(int zoom);
 
 private:
     void syncScrollBars();
+    // What is shown over the drawn map: the selected sector's outline, and
+    // the hint of how to begin while the map knows nothing.
+    void showOverlays();
     void hscroll_Change(int value);
     void vscroll_Change(int value);
     // A scroll bar moved by the person (not by the program) moves the origin
