@@ -1,21 +1,13 @@
 #include "import/report_reader.h"
 
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
-#include <memory>
-#include <sys/stat.h>
+#include "model/input_file.h"
 
 namespace wayscribe {
 
 namespace {
 // Turn reports are a few hundred kilobytes; a file far beyond that is not
 // a report, and reading it whole would only exhaust memory.
-constexpr long long kMaxReportBytes = 256ll << 20;
-
-struct FileCloser {
-    void operator()(std::FILE *f) const { std::fclose(f); }
-};
+constexpr InputKind kTurnReport{"turn report", std::uint64_t(256) << 20};
 } // namespace
 
 bool ReportReader::open(const std::string &path, FileError &error)
@@ -26,38 +18,9 @@ bool ReportReader::open(const std::string &path, FileError &error)
     line_ = 0;
     error = {path, 0, {}};
 
-    struct stat info {};
-    if (::stat(path.c_str(), &info) != 0) {
-        error.reason = std::strerror(errno);
+    InputFile file;
+    if (!file.open(path, kTurnReport, error.reason) || !file.readAll(content_, error.reason))
         return false;
-    }
-    if (S_ISDIR(info.st_mode)) {
-        error.reason = "it is a folder, not a file";
-        return false;
-    }
-    if (info.st_size > kMaxReportBytes) {
-        error.reason = "the file is too large to be a turn report";
-        return false;
-    }
-    std::unique_ptr<std::FILE, FileCloser> file(std::fopen(path.c_str(), "rb"));
-    if (!file) {
-        error.reason = std::strerror(errno);
-        return false;
-    }
-    content_.reserve(static_cast<std::size_t>(info.st_size));
-    char buffer[1 << 16];
-    std::size_t got;
-    while ((got = std::fread(buffer, 1, sizeof buffer, file.get())) > 0) {
-        if (static_cast<long long>(content_.size() + got) > kMaxReportBytes) {
-            error.reason = "the file is too large to be a turn report";
-            return false;
-        }
-        content_.append(buffer, got);
-    }
-    if (std::ferror(file.get())) {
-        error.reason = std::strerror(errno);
-        return false;
-    }
     reader_ = CsvReader(content_);
     return true;
 }

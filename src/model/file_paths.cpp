@@ -1,6 +1,6 @@
 #include "model/file_paths.h"
 
-#include <fstream>
+#include <sys/stat.h>
 
 namespace wayscribe {
 
@@ -12,8 +12,9 @@ std::string folderPart(const std::string &path)
 
 bool fileExists(const std::string &path)
 {
-    std::ifstream in(path, std::ios::binary);
-    return static_cast<bool>(in);
+    // Looked up, never opened: opening a pipe would wait for a writer.
+    struct stat info {};
+    return ::stat(path.c_str(), &info) == 0;
 }
 
 } // namespace wayscribe

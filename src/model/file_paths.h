@@ -8,6 +8,8 @@ namespace wayscribe {
 // separators count, as stored options may hold either.
 std::string folderPart(const std::string &path);
 
+// Whether anything of that name is there, of whatever kind: the readers
+// say when it is no file they can read.
 bool fileExists(const std::string &path);
 
 } // namespace wayscribe

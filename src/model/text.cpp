@@ -99,7 +99,7 @@ std::string replaceAll(std::string_view text, std::string_view from, std::string
     return out;
 }
 
-double textValue(std::string_view text)
+double textValueOrInfinity(std::string_view text)
 {
     // Gather the characters that can form a number, skipping blanks anywhere
     // ("1 2" is 12), as map files and reports have always been read.
@@ -142,7 +142,12 @@ double textValue(std::string_view text)
             i = save;
         }
     }
-    const double v = std::strtod(number.c_str(), nullptr);
+    return std::strtod(number.c_str(), nullptr);
+}
+
+double textValue(std::string_view text)
+{
+    const double v = textValueOrInfinity(text);
     return std::isfinite(v) ? v : 0.0;
 }
 

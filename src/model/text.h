@@ -45,6 +45,9 @@ std::string oneLine(std::string_view text);
 // The numeric value of a text: blanks are skipped, the number is read up to
 // the first character that cannot continue it; no leading number gives 0.
 double textValue(std::string_view text);
+// The same, except that a number beyond the range of a double gives an
+// infinity rather than 0, for a field that must refuse it.
+double textValueOrInfinity(std::string_view text);
 
 // Rounds to the nearest integer, halves to the even neighbour. Every place
 // that turns a value into an index rounds through here.

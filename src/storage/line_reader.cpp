@@ -1,11 +1,9 @@
 #include "storage/line_reader.h"
 
 #include "model/text.h"
+#include "storage/field_number.h"
 
-#include <cerrno>
-#include <cmath>
 #include <cstring>
-#include <sys/stat.h>
 
 namespace wayscribe {
 
@@ -15,24 +13,11 @@ constexpr std::size_t kChunk = 1 << 20;
 constexpr std::size_t kMaxLine = std::size_t(256) << 20;
 } // namespace
 
-LineReader::~LineReader()
+bool LineReader::open(const std::string &path, const InputKind &kind)
 {
-    if (file_)
-        std::fclose(file_);
-}
-
-bool LineReader::open(const std::string &path)
-{
-    struct stat info {};
-    if (::stat(path.c_str(), &info) == 0 && S_ISDIR(info.st_mode)) {
-        error_ = "it is a folder, not a file";
+    if (!file_.open(path, kind, error_))
         return false;
-    }
-    file_ = std::fopen(path.c_str(), "rb");
-    if (!file_) {
-        error_ = std::strerror(errno);
-        return false;
-    }
+    opened_ = true;
     buffer_.resize(kChunk);
     return true;
 }
@@ -54,12 +39,11 @@ bool LineReader::fill()
         }
         buffer_.resize(buffer_.size() * 2);
     }
-    const std::size_t got = std::fread(buffer_.data() + end_, 1, buffer_.size() - end_, file_);
+    std::size_t got = 0;
+    const bool ok = file_.read(buffer_.data() + end_, buffer_.size() - end_, got, error_);
     end_ += got;
-    if (got == 0) {
+    if (!ok || got == 0) {
         eof_ = true;
-        if (std::ferror(file_))
-            error_ = std::strerror(errno);
         return false;
     }
     return true;
@@ -67,7 +51,7 @@ bool LineReader::fill()
 
 bool LineReader::nextAfterFill(std::string_view &line)
 {
-    if (!file_)
+    if (!opened_)
         return false;
     std::size_t searched = begin_;
     while (true) {
@@ -113,27 +97,19 @@ bool MapLineReader::readNumber(long min, long max, long &value)
     if (!readRaw(line))
         return false;
     const std::string_view digits = trimBlanks(line);
-    // Plain digits are by far the common case; anything else goes through
-    // the lenient conversion.
+    // Plain digits are by far the common case; anything else, and a number
+    // that does not fit, goes through the lenient conversion.
     if (!digits.empty() && digits.size() <= 9 &&
         digits.find_first_not_of("0123456789") == std::string_view::npos) {
         long v = 0;
         for (char c : digits)
             v = v * 10 + (c - '0');
-        value = v;
-    } else {
-        const double v = roundHalfEven(textValue(digits));
-        if (!(v >= static_cast<double>(min) && v <= static_cast<double>(max))) {
-            error_ = "the number \"" + std::string(digits.substr(0, 40)) + "\" does not fit its field";
-            return false;
+        if (v >= min && v <= max) {
+            value = v;
+            return true;
         }
-        value = static_cast<long>(v);
     }
-    if (value < min || value > max) {
-        error_ = "the number " + std::to_string(value) + " does not fit its field";
-        return false;
-    }
-    return true;
+    return fieldNumber(digits, min, max, value, error_);
 }
 
 bool MapLineReader::readByte(std::uint8_t &value)

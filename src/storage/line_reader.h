@@ -1,7 +1,8 @@
 #pragma once
 
+#include "model/input_file.h"
+
 #include <cstdint>
-#include <cstdio>
 #include <cstring>
 #include <string>
 #include <string_view>
@@ -13,13 +14,9 @@ namespace wayscribe {
 // end with LF or CR LF; the last line may lack its end.
 class LineReader {
 public:
-    LineReader() = default;
-    ~LineReader();
-    LineReader(const LineReader &) = delete;
-    LineReader &operator=(const LineReader &) = delete;
-
-    // False (with error()) when the file cannot be opened or is a folder.
-    bool open(const std::string &path);
+    // False (with error()) when the file cannot be opened or is no
+    // ordinary file of that kind.
+    bool open(const std::string &path, const InputKind &kind);
     // The next line without its line end, valid until the next call; false
     // at the end of the file or on a read error (error() tells which).
     bool next(std::string_view &line)
@@ -59,7 +56,8 @@ private:
                             : nullptr;
     }
 
-    std::FILE *file_ = nullptr;
+    InputFile file_;
+    bool opened_ = false;
     std::vector<char> buffer_;
     std::size_t begin_ = 0;
     std::size_t end_ = 0;

@@ -10,6 +10,9 @@ namespace wayscribe {
 
 namespace {
 
+// A map with every table full takes 14 MB.
+constexpr InputKind kMapFile{"map file", std::uint64_t(256) << 20};
+
 // Loading: every field of the file replaces the model's own.
 class LoadFields {
 public:
@@ -190,7 +193,7 @@ MapReadResult readMapFileWith(const std::string &path,
 {
     MapReadResult result;
     LineReader lines;
-    if (!lines.open(path)) {
+    if (!lines.open(path, kMapFile)) {
         result.ok = false;
         result.error = {path, 0, "cannot be opened: " + lines.error()};
         return result;
@@ -220,11 +223,12 @@ MapReadResult readMapFile(const std::string &path, World &world, std::uint8_t &g
     });
 }
 
-bool writeMapFile(const std::string &path, const World &world, std::uint8_t gameNumber, FileError &error)
+bool writeMapFile(const std::string &path, const World &world, std::uint8_t gameNumber, FileError &error,
+                  ReadOnlyTarget readOnly)
 {
     BufferedFileWriter out;
     std::string reason;
-    if (!out.open(path, reason)) {
+    if (!out.open(path, reason, readOnly)) {
         error = {path, 0, reason};
         return false;
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/file_error.h"
+#include "storage/atomic_file.h"
 
 #include <cstdint>
 #include <functional>
@@ -34,6 +35,8 @@ MapReadResult readMapFileWith(const std::string &path,
 
 // Writes the model as a format 17 map file. The file is written beside the
 // target and renamed over it, so a failed save leaves the old file as it was.
-bool writeMapFile(const std::string &path, const World &world, std::uint8_t gameNumber, FileError &error);
+// A read-only target is refused unless the person agreed to replace it.
+bool writeMapFile(const std::string &path, const World &world, std::uint8_t gameNumber, FileError &error,
+                  ReadOnlyTarget readOnly = ReadOnlyTarget::Refuse);
 
 } // namespace wayscribe

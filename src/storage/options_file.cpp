@@ -1,18 +1,21 @@
 #include "storage/options_file.h"
 
+#include "model/file_paths.h"
+#include "model/input_file.h"
 #include "model/platform.h"
 #include "model/program_state.h"
 #include "model/text.h"
 #include "storage/atomic_file.h"
 #include "storage/desktop_options.h"
 
-#include <fstream>
 #include <limits>
-#include <sstream>
 
 namespace wayscribe {
 
 namespace {
+
+// The program writes a kilobyte or two.
+constexpr InputKind kOptionsFile{"options file", std::uint64_t(1) << 20};
 
 const char *flag(bool on)
 {
@@ -70,7 +73,7 @@ void applyOption(std::string_view value, ProgramState &state)
 
 } // namespace
 
-void readOptionsFile(const std::string &path, ProgramState &state)
+std::optional<FileError> readOptionsFile(const std::string &path, ProgramState &state)
 {
     state.document.mapLocked = 0;
     Options &o = state.options;
@@ -79,12 +82,13 @@ void readOptionsFile(const std::string &path, ProgramState &state)
     o.loadLock = false;
     o.desktop = DesktopOptions{};
 
-    std::ifstream in(path, std::ios::binary);
-    if (!in)
-        return;
-    std::ostringstream bytes;
-    bytes << in.rdbuf();
-    const std::string text = bytes.str();
+    // No options file is the usual first start: the defaults, silently.
+    if (!fileExists(path))
+        return std::nullopt;
+    InputFile file;
+    std::string text, reason;
+    if (!file.open(path, kOptionsFile, reason) || !file.readAll(text, reason))
+        return FileError{path, 0, reason};
     CsvReader reader(text);
     std::string value;
     while (reader.next(value)) {
@@ -94,6 +98,7 @@ void readOptionsFile(const std::string &path, ProgramState &state)
         applyOption(value, state);
     }
     readDesktopOptions(text, o.desktop);
+    return std::nullopt;
 }
 
 std::string optionsFileText(const ProgramState &state)

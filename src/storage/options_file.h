@@ -1,5 +1,8 @@
 #pragma once
 
+#include "model/file_error.h"
+
+#include <optional>
 #include <string>
 
 namespace wayscribe {
@@ -9,9 +12,11 @@ class Platform;
 
 inline constexpr const char *kOptionsFileName = "wayscribe.ini";
 
-// Sets the defaults, then applies the options file at `path` when it can be
-// read. Unknown keys, comments and malformed lines are skipped silently.
-void readOptionsFile(const std::string &path, ProgramState &state);
+// Sets the defaults, then applies the options file at `path` when there is
+// one. Unknown keys, comments and malformed lines are skipped silently. A
+// file that is there but cannot be read (no ordinary file, too large) is
+// left alone, and why is returned for the person.
+std::optional<FileError> readOptionsFile(const std::string &path, ProgramState &state);
 
 // The options file's text, from the current options and scroll origin.
 std::string optionsFileText(const ProgramState &state);

@@ -2,6 +2,7 @@
 
 // The two files of a QuestOR map, read one after the other by readQuestorMap.
 
+#include "model/input_file.h"
 #include "storage/questor_import.h"
 
 #include <string>
@@ -22,8 +23,14 @@ struct QuestorTokenCounts {
     bool hasSpecialItems() const { return specialItems > 0; }
 };
 
-// The whole file; false with a reason when it cannot be opened or read.
-bool readQuestorFile(const std::string &path, std::string &bytes, QuestorError &error);
+// The two files' kinds, limited as map files and turn reports are: a file
+// beyond that would be read whole into memory for nothing.
+inline constexpr InputKind kQuestorMapFile{"QuestOR map file", std::uint64_t(256) << 20};
+inline constexpr InputKind kQuestorNamesFile{"QuestOR names file", std::uint64_t(256) << 20};
+
+// The whole file; false with a reason when it cannot be opened or read, or
+// is no ordinary file of that kind.
+bool readQuestorFile(const std::string &path, const InputKind &kind, std::string &bytes, QuestorError &error);
 
 // The .mp1 file's terrain and token stream. `changed` tells whether anything
 // was written, also when the file stops early.

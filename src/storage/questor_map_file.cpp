@@ -6,11 +6,7 @@
 #include "model/text.h"
 #include "model/world.h"
 
-#include <cerrno>
 #include <cstdint>
-#include <cstdio>
-#include <cstring>
-#include <memory>
 
 namespace wayscribe {
 
@@ -250,21 +246,18 @@ bool readTerrain(ValueStream &in, World &world, Platform &platform, bool &change
 
 } // namespace
 
-bool readQuestorFile(const std::string &path, std::string &bytes, QuestorError &error)
+bool readQuestorFile(const std::string &path, const InputKind &kind, std::string &bytes, QuestorError &error)
 {
     error.path = path;
     bytes.clear();
-    std::unique_ptr<std::FILE, int (*)(std::FILE *)> file(std::fopen(path.c_str(), "rb"), &std::fclose);
-    if (!file) {
-        error.reason = std::string("the file cannot be opened (") + std::strerror(errno) + ")";
+    InputFile file;
+    std::string reason;
+    if (!file.open(path, kind, reason)) {
+        error.reason = "the file cannot be opened (" + reason + ")";
         return false;
     }
-    char buffer[65536];
-    std::size_t got;
-    while ((got = std::fread(buffer, 1, sizeof buffer, file.get())) > 0)
-        bytes.append(buffer, got);
-    if (std::ferror(file.get())) {
-        error.reason = std::string("the file cannot be read (") + std::strerror(errno) + ")";
+    if (!file.readAll(bytes, reason)) {
+        error.reason = "the file cannot be read (" + reason + ")";
         return false;
     }
     return true;
@@ -274,7 +267,7 @@ bool readQuestorMapFile(const std::string &path, World &world, Platform &platfor
                         bool &changed, QuestorError &error)
 {
     std::string bytes;
-    if (!readQuestorFile(path, bytes, error))
+    if (!readQuestorFile(path, kQuestorMapFile, bytes, error))
         return false;
     ValueStream in(bytes);
     if (!readTerrain(in, world, platform, changed, error))

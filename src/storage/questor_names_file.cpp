@@ -6,6 +6,7 @@
 #include "model/program_state.h"
 #include "model/text.h"
 #include "model/world.h"
+#include "storage/field_number.h"
 
 #include <cmath>
 #include <cstdint>
@@ -58,9 +59,10 @@ public:
         std::string text;
         if (!read(text, what))
             return false;
-        const long long v = indexValue(text);
-        if (v < 0 || v > 255)
-            return fail(lastLine_, "\"" + text + "\" is not a number from 0 to 255");
+        long v;
+        std::string reason;
+        if (!fieldNumber(text, 0, 255, v, reason))
+            return fail(lastLine_, reason);
         value = static_cast<int>(v);
         return true;
     }
@@ -90,14 +92,14 @@ bool isSectorTableIndex(int v)
 bool readNotes(NamesInput &in, World &world, ProgramState &state)
 {
     const char *what = "sector notes";
-    int x;
+    int x = 0;
     if (!in.readByte(x, what))
         return false;
     while (true) {
         state.selection.selX = static_cast<std::uint8_t>(x);
         if (x == kNotesEnd)
             return in.skip(4, what);
-        int y;
+        int y = 0;
         if (!in.readByte(y, what))
             return false;
         state.selection.selY = static_cast<std::uint8_t>(y);
@@ -258,7 +260,7 @@ bool readQuestorNamesFile(const std::string &path, World &world, ProgramState &s
                           const QuestorTokenCounts &counts, QuestorError &error)
 {
     std::string text;
-    if (!readQuestorFile(path, text, error))
+    if (!readQuestorFile(path, kQuestorNamesFile, text, error))
         return false;
     NamesInput in(text, platform, error);
     const bool special = counts.hasSpecialItems();

@@ -266,7 +266,7 @@ TEST_F(QuestorCommandTest, BadNotePlacesAndAMissingNamesFileAreTold)
     writeFiles(oneSettlement().bytes(), "300,5,\"x\"\r\n");
     run();
     expectFailure(namesPath, "line 1");
-    EXPECT_TRUE(contains(platform.messages[0].detail, "\"300\" is not a number from 0 to 255"));
+    EXPECT_TRUE(contains(platform.messages[0].detail, "the number \"300\" does not fit its field"));
     EXPECT_EQ(state.document.mapChanged, 1);
 
     writeFiles(oneSettlement().bytes(), "201,5,\"x\"\r\n");
