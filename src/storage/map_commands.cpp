@@ -6,6 +6,7 @@
 #include "model/program_state.h"
 #include "model/text.h"
 #include "model/world.h"
+#include "storage/atomic_file.h"
 #include "storage/map_file.h"
 #include "storage/map_merge.h"
 #include "storage/options_file.h"
@@ -28,6 +29,20 @@ void reportFailedLoad(Platform &platform, const MapReadResult &result)
                                       "broken line has been loaded; the rest of the map is as it was."
                                     : "The map file could not be read. The map is as it was."),
                      kProgramTitle, MessageButtons::Ok, MessageIcon::Exclamation, result.error.describe());
+}
+
+// A map the person made read-only is replaced only when they agree: that
+// was their way of keeping it as it is.
+bool mayReplace(Platform &platform, const std::string &target, ReadOnlyTarget &readOnly)
+{
+    readOnly = ReadOnlyTarget::Refuse;
+    if (!isReadOnlyFile(target))
+        return true;
+    if (platform.message(target + " is read-only. Replace it anyway?", kProgramTitle, MessageButtons::YesNo,
+                         MessageIcon::Exclamation) != Answer::Yes)
+        return false;
+    readOnly = ReadOnlyTarget::Replace;
+    return true;
 }
 
 } // namespace
@@ -87,16 +102,17 @@ bool Save_Map(World &world, ProgramState &state, Platform &platform, bool choose
             platform.message("Are you sure you wish to over-write this file?", "Sure?", MessageButtons::YesNo,
                              MessageIcon::Question) != Answer::Yes)
             return false;
-        state.document.mapChanged = 0;
-        state.document.mapFileName = target;
-    } else {
-        state.document.mapChanged = 0;
+    } else
         target = state.document.mapFileName;
-    }
+    ReadOnlyTarget readOnly;
+    if (!mayReplace(platform, target, readOnly))
+        return false;
+    state.document.mapChanged = 0;
+    state.document.mapFileName = target;
     state.options.wmol = target;
     FileJob job(state.document, platform, "Please wait, saving map...");
     FileError error;
-    const bool ok = writeMapFile(target, world, state.document.gameNumber, error);
+    const bool ok = writeMapFile(target, world, state.document.gameNumber, error, readOnly);
     job.finish();
     if (!ok) {
         state.document.mapChanged = 1;
