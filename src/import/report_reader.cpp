@@ -7,7 +7,7 @@ namespace wayscribe {
 namespace {
 // Turn reports are a few hundred kilobytes; a file far beyond that is not
 // a report, and reading it whole would only exhaust memory.
-constexpr InputKind kTurnReport{"turn report", std::uint64_t(256) << 20};
+constexpr InputKind kTurnReport{"a turn report", std::uint64_t(256) << 20};
 } // namespace
 
 bool ReportReader::open(const std::string &path, FileError &error)

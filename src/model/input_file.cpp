@@ -72,7 +72,7 @@ bool InputFile::read(char *into, std::size_t size, std::size_t &got, std::string
 
 std::string InputFile::tooLarge() const
 {
-    return "it is larger than " + std::to_string(kind_.maxBytes >> 20) + " MB, too large for a " + kind_.name;
+    return "it is larger than " + std::to_string(kind_.maxBytes >> 20) + " MB, too large for " + kind_.name;
 }
 
 bool InputFile::readAll(std::string &bytes, std::string &reason)

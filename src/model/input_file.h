@@ -10,7 +10,7 @@ namespace wayscribe {
 // file of that kind comes anywhere near the limit, and one beyond it would
 // only fill the memory.
 struct InputKind {
-    const char *name; // "map file", "turn report", ...
+    const char *name; // with its article: "a map file", "a turn report"
     std::uint64_t maxBytes;
 };
 

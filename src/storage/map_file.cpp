@@ -11,7 +11,7 @@ namespace wayscribe {
 namespace {
 
 // A map with every table full takes 14 MB.
-constexpr InputKind kMapFile{"map file", std::uint64_t(256) << 20};
+constexpr InputKind kMapFile{"a map file", std::uint64_t(256) << 20};
 
 // Loading: every field of the file replaces the model's own.
 class LoadFields {

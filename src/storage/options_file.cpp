@@ -15,7 +15,7 @@ namespace wayscribe {
 namespace {
 
 // The program writes a kilobyte or two.
-constexpr InputKind kOptionsFile{"options file", std::uint64_t(1) << 20};
+constexpr InputKind kOptionsFile{"an options file", std::uint64_t(1) << 20};
 
 const char *flag(bool on)
 {

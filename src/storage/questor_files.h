@@ -25,8 +25,8 @@ struct QuestorTokenCounts {
 
 // The two files' kinds, limited as map files and turn reports are: a file
 // beyond that would be read whole into memory for nothing.
-inline constexpr InputKind kQuestorMapFile{"QuestOR map file", std::uint64_t(256) << 20};
-inline constexpr InputKind kQuestorNamesFile{"QuestOR names file", std::uint64_t(256) << 20};
+inline constexpr InputKind kQuestorMapFile{"a QuestOR map file", std::uint64_t(256) << 20};
+inline constexpr InputKind kQuestorNamesFile{"a QuestOR names file", std::uint64_t(256) << 20};
 
 // The whole file; false with a reason when it cannot be opened or read, or
 // is no ordinary file of that kind.
