@@ -1,5 +1,6 @@
 #include "app/Orvens_Mapper.h"
 
+#include "app/autosave.h"
 #include "app/command_table.h"
 #include "app/frmAbout.h"
 #include "app/tile_set_menu.h"
@@ -57,6 +58,7 @@ Orvens_Mapper::Orvens_Mapper(World &world, ProgramState &state, Platform &platfo
     buildCommands();
     connect(changes_.get(), &WorldChangeSignal::worldChanged, this, &Orvens_Mapper::worldChanged);
     refreshUndoItems();
+    setAcceptDrops(true);
     resize(1180, 760);
 }
 
@@ -169,15 +171,18 @@ void Orvens_Mapper::followDocument()
 {
     refreshUndoItems();
     updateTitle();
+    rememberMapFile();
+    if (autosave_)
+        autosave_->followDocument();
 }
 
-void Orvens_Mapper::openMap(bool fromMenu)
+void Orvens_Mapper::openMap(bool fromMenu, const std::string &name)
 {
     // A load that stops part-way overwrites part of the map: it is one undo
     // step, so that the map from before can come back. A complete load is
     // another map, to which the old steps do not apply.
     LoadResult result = LoadResult::Cancelled;
-    history_->apply("Open Map", [&] { result = loadMapCommand(world_, state_, platform_, fromMenu); });
+    history_->apply("Open Map", [&] { result = loadMapCommand(world_, state_, platform_, fromMenu, name); });
     if (result == LoadResult::Complete)
         history_->clear();
 }
@@ -330,6 +335,15 @@ bool Orvens_Mapper::startUp(const std::string &mapToOpen)
         about_->setPleaseWaitVisible(false);
     }
     clampView(state_.view);
+    rememberedMapFile_ = doc.mapFileName;
+    fillRecentMapsMenu();
+    // After the start-up steps: the changes a crashed run left behind.
+    autosave_ = new Autosave(world_, state_, platform_, paths_.recoveryFolder, this);
+    if (autosave_->offerLeftBehind()) {
+        history_->clear();
+        clampView(state_.view);
+    }
+    autosave_->start();
     redrawMap();
     syncLockControls();
     QTimer::singleShot(200, this, [this] {
@@ -375,6 +389,8 @@ void Orvens_Mapper::closeEvent(QCloseEvent *event)
         return;
     }
     writeOptions(state_, platform_);
+    if (autosave_)
+        autosave_->cleanExit();
     if (about_)
         about_->close();
     event->accept();

@@ -11,7 +11,10 @@
 #include <memory>
 #include <string>
 
+class QDragEnterEvent;
+class QDropEvent;
 class QLabel;
+class QMenu;
 class QToolBar;
 
 namespace wayscribe {
@@ -32,6 +35,7 @@ class SectorPanel;
 class MovementPanel;
 class TerrainPalette;
 class frmAbout;
+class Autosave;
 struct Minimap;
 
 // The main window: puts the map view, the side panels, the menus and the
@@ -66,6 +70,9 @@ public:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    // Maps and turn reports dropped onto the window (main_window_files.cpp).
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
     void buildCentre();
@@ -76,8 +83,14 @@ private:
     // The title's star and the undo items follow the document: run after
     // every command, map click and change of the world.
     void followDocument();
-    // File, Open and the Load Map button (`fromMenu` false).
-    void openMap(bool fromMenu);
+    // File, Open and the Load Map button (`fromMenu` false); a dropped or
+    // recent map comes as `name`.
+    void openMap(bool fromMenu, const std::string &name = {});
+    // File > Recent Maps after the file commands (main_window_files.cpp).
+    void addRecentMapsMenu(QMenu *fileMenu);
+    void fillRecentMapsMenu();
+    // A map that now has its own file joins the recent maps.
+    void rememberMapFile();
     // The zoom items of the View menu and File, Export Map Picture
     // (view_commands.cpp).
     void groupZoomCommands();
@@ -118,6 +131,9 @@ private:
     QToolBar *toolbar_ = nullptr;
     QLabel *txtStatus = nullptr;
     frmAbout *about_ = nullptr;
+    QMenu *recentMaps_ = nullptr;
+    Autosave *autosave_ = nullptr;
+    std::string rememberedMapFile_;
 };
 
 } // namespace wayscribe

@@ -26,6 +26,7 @@
 #include "view/view_navigation.h"
 
 #include <QAction>
+#include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
 
@@ -71,10 +72,11 @@ void Orvens_Mapper::buildCommands()
     };
 
     QMenuBar *bar = menuBar();
-    commands_->addMenu(
+    QMenu *fileMenu = commands_->addMenu(
         bar, "mnuFile", "File",
         {
-            {"mnuFileNew", "&New", replacing([&w, &s, &p] { newMapCommand(w, s, p); }), busyGuarded},
+            {"mnuFileNew", "&New", replacing([&w, &s, &p] { newMapCommand(w, s, p); }), busyGuarded, false,
+             QKeySequence::New},
             {"mnuFileImport", "&Import HTML",
              undoable("Import HTML", [&w, &s, &p] { Import_HTML(w, s, p, writeOptions); }), busyGuarded},
             {"mnuFileBatch", "&Batch Import HTML",
@@ -83,17 +85,20 @@ void Orvens_Mapper::buildCommands()
             {"mnuFileQuestor", "Import &QuestOR",
              undoable("Import QuestOR", [&w, &s, &p] { importQuestorCommand(w, s, p); }), busyGuarded},
             Command::separator("mnuFileSep1"),
-            {"mnuFileOpen", "&Open", [this] { openMap(true); }, busyGuarded},
-            {"mnuFileSave", "&Save", save, busyGuarded},
-            {"mnuFileSaveAs", "Save &As", saveAs, busyGuarded},
+            {"mnuFileOpen", "&Open", [this] { openMap(true); }, busyGuarded, false, QKeySequence::Open},
+            {"mnuFileSave", "&Save", save, busyGuarded, false, QKeySequence::Save},
+            {"mnuFileSaveAs", "Save &As", saveAs, busyGuarded, false,
+             QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)},
             {"mnuFileMerge", "&Merge Map", undoable("Merge Map", [&w, &s, &p] { mergeMapCommand(w, s, p); })},
             Command::separator("mnuFileSep2"),
             {"mnuFileOptions", "O&ptions",
              [this] { host_->open(new frmOptions(state_, platform_, this), true); }},
-            {"mnuFileExit", "E&xit", [this] { close(); }},
+            {"mnuFileExit", "E&xit", [this] { close(); }, Command::Always, false,
+             QKeySequence(Qt::CTRL | Qt::Key_Q)},
             Command::separator("mnuFileSep3"),
             {"mnuFileExportPicture", "Export Map Pic&ture...", [this] { openExportPicture(); }, busyGuarded},
         });
+    addRecentMapsMenu(fileMenu);
     commands_->addMenu(
         bar, "mnuEdit", "Edit",
         {

@@ -57,6 +57,36 @@ bool reportFilesInFolder(const std::string &folder, std::vector<std::string> &fi
     return true;
 }
 
+namespace {
+
+// The batch's reading: each report with the single import's rules, without
+// the message about another game's report and without moving the view; a
+// report that stops or cannot be opened has been reported and the others
+// are still imported.
+void importEach(World &world, ProgramState &state, Platform &platform, const std::vector<std::string> &files,
+                BatchOutcome &outcome)
+{
+    outcome.files = static_cast<int>(files.size());
+    for (std::size_t k = 0; k < files.size(); ++k) {
+        const std::string name = files[k].substr(folderPart(files[k]).size());
+        platform.setStatus(std::string(kBatchStatus) + " file " + formatPlain(static_cast<long long>(k + 1)) +
+                           " of " + formatPlain(outcome.files) + ", " + name);
+        switch (readReport(world, state, platform, files[k], ImportSettings{true}).result) {
+        case ReportResult::Imported:
+            ++outcome.imported;
+            break;
+        case ReportResult::Stopped:
+            ++outcome.stopped;
+            break;
+        case ReportResult::NotOpened:
+            ++outcome.notOpened;
+            break;
+        }
+    }
+}
+
+} // namespace
+
 BatchOutcome importHtmlFolder(World &world, ProgramState &state, Platform &platform,
                               const std::string &folder, const OptionsWriter &saveOptions)
 {
@@ -74,26 +104,25 @@ BatchOutcome importHtmlFolder(World &world, ProgramState &state, Platform &platf
     if (!outcome.listed)
         platform.message("The folder could not be read.", kProgramTitle, MessageButtons::Ok,
                          MessageIcon::Exclamation, error);
-    outcome.files = static_cast<int>(files.size());
-    for (std::size_t k = 0; k < files.size(); ++k) {
-        const std::string name = files[k].substr(folderPart(files[k]).size());
-        platform.setStatus(std::string(kBatchStatus) + " file " + formatPlain(static_cast<long long>(k + 1)) +
-                           " of " + formatPlain(outcome.files) + ", " + name);
-        // A report that stops or cannot be opened has been reported; the
-        // others are still imported.
-        switch (readReport(world, state, platform, files[k], ImportSettings{true}).result) {
-        case ReportResult::Imported:
-            ++outcome.imported;
-            break;
-        case ReportResult::Stopped:
-            ++outcome.stopped;
-            break;
-        case ReportResult::NotOpened:
-            ++outcome.notOpened;
-            break;
-        }
-    }
+    importEach(world, state, platform, files, outcome);
 
+    job.finish();
+    platform.redrawMap();
+    return outcome;
+}
+
+BatchOutcome importHtmlFiles(World &world, ProgramState &state, Platform &platform,
+                             const std::vector<std::string> &files, const OptionsWriter &saveOptions)
+{
+    BatchOutcome outcome;
+    if (state.document.fileBusy || files.empty())
+        return outcome;
+    state.document.mapChanged = 1;
+    FileJob job(state.document, platform, kBatchStatus);
+    state.options.lastImp = folderPart(files.front());
+    saveOptions(state, platform);
+    outcome.listed = true;
+    importEach(world, state, platform, files, outcome);
     job.finish();
     platform.redrawMap();
     return outcome;

@@ -31,6 +31,12 @@ struct BatchOutcome {
 BatchOutcome importHtmlFolder(World &world, ProgramState &state, Platform &platform,
                               const std::string &folder, const OptionsWriter &saveOptions);
 
+// Imports the given reports in the given order, as a batch of those files
+// (the reports dropped onto the window). The folder of the first one is
+// remembered as the folder of the last import.
+BatchOutcome importHtmlFiles(World &world, ProgramState &state, Platform &platform,
+                             const std::vector<std::string> &files, const OptionsWriter &saveOptions);
+
 // File, Batch Import: the person picks any file in the folder of reports.
 void batchImportHtml(World &world, ProgramState &state, Platform &platform, const OptionsWriter &saveOptions);
 

@@ -133,7 +133,8 @@ void newMapCommand(World &world, ProgramState &state, Platform &platform)
         NewMap(world, state, platform);
 }
 
-LoadResult loadMapCommand(World &world, ProgramState &state, Platform &platform, bool fromMenu)
+LoadResult loadMapCommand(World &world, ProgramState &state, Platform &platform, bool fromMenu,
+                          const std::string &name)
 {
     const std::uint8_t changedBefore = state.document.mapChanged;
     if (state.document.mapChanged == 1) {
@@ -147,7 +148,7 @@ LoadResult loadMapCommand(World &world, ProgramState &state, Platform &platform,
     }
     if (state.document.mapChanged != 0)
         return LoadResult::Cancelled;
-    const LoadResult result = Load_Map(world, state, platform, "");
+    const LoadResult result = Load_Map(world, state, platform, name);
     // Agreeing to drop the changes was for a load that did not happen: the
     // map still holds them.
     if (result == LoadResult::Cancelled || result == LoadResult::Unread)

@@ -33,8 +33,10 @@ void newMapCommand(World &world, ProgramState &state, Platform &platform);
 
 // The Load Map button (`fromMenu` false) and File, Open (true): the same
 // load after differently worded questions about a changed map. A load that
-// changed nothing leaves the map marked as changed as it was before.
-LoadResult loadMapCommand(World &world, ProgramState &state, Platform &platform, bool fromMenu);
+// changed nothing leaves the map marked as changed as it was before. A map
+// dropped onto the window or picked from the recent maps comes as `name`.
+LoadResult loadMapCommand(World &world, ProgramState &state, Platform &platform, bool fromMenu,
+                          const std::string &name = {});
 
 // The exit question for a changed map. False when the person cancels the
 // exit; otherwise the map was saved or its changes dropped as they chose.

@@ -25,12 +25,13 @@ struct Harness {
 
     explicit Harness(const std::string &graphics = WAYSCRIBE_GRAPHICS) : graphicsFolder(graphics) {}
     std::string graphicsFolder;
+    std::string recoveryFolder; // empty: no autosave
 
     void start(const std::string &options = {}, const std::string &mapToOpen = {})
     {
         if (!options.empty())
             writeFile(dir.file("wayscribe.ini"), options);
-        AppPaths paths{dir.path().string(), graphicsFolder, dir.file("wayscribe.ini")};
+        AppPaths paths{dir.path().string(), graphicsFolder, dir.file("wayscribe.ini"), recoveryFolder};
         window = std::make_unique<Orvens_Mapper>(*world, state, platform, paths);
         platform.host = window.get();
         window->resize(1000, 700);
