@@ -37,12 +37,15 @@ void fitView(ViewState &view, int width, int height, int zoom)
 void zoomView(ViewState &view, int width, int height, int oldZoom, int newZoom, double anchorX,
               double anchorY)
 {
-    // Where the anchor is in the world, in sectors from the world's edges.
-    const double worldX = view.viewLeft + anchorX / sectorPixels(oldZoom);
-    const double worldY = view.viewTop + anchorY / sectorPixels(oldZoom);
+    // The sector under the anchor, counted from 0, and the column and row of
+    // the anchor at the new zoom, also from 0.
+    const double sectorX = std::floor(view.viewLeft + anchorX / sectorPixels(oldZoom));
+    const double sectorY = std::floor(view.viewTop + anchorY / sectorPixels(oldZoom));
+    const double column = std::floor(anchorX / sectorPixels(newZoom));
+    const double row = std::floor(anchorY / sectorPixels(newZoom));
     fitView(view, width, height, newZoom);
-    view.viewLeft = clampedViewOrigin(std::llround(worldX - anchorX / sectorPixels(newZoom)), view.viewCols);
-    view.viewTop = clampedViewOrigin(std::llround(worldY - anchorY / sectorPixels(newZoom)), view.viewRows);
+    view.viewLeft = clampedViewOrigin(static_cast<long long>(sectorX - column), view.viewCols);
+    view.viewTop = clampedViewOrigin(static_cast<long long>(sectorY - row), view.viewRows);
 }
 
 void centreView(ViewState &view, Platform &platform, int x, int y)

@@ -27,8 +27,8 @@ void clampView(ViewState &view);
 void fitView(ViewState &view, int width, int height, int zoom);
 
 // Fits the view to the picture at `newZoom` in place of `oldZoom`, keeping
-// the point of the world under screen pixel (anchorX, anchorY) where it is,
-// as far as the world's edges allow.
+// the sector under screen pixel (anchorX, anchorY) under it, as far as the
+// world's edges allow.
 void zoomView(ViewState &view, int width, int height, int oldZoom, int newZoom, double anchorX,
               double anchorY);
 
