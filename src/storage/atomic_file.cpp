@@ -69,7 +69,7 @@ bool resolveLinks(std::string path, std::string &resolved, std::string &reason)
             return false;
         }
         link.resize(static_cast<std::size_t>(n));
-        path = link.front() == '/' ? link : folderOf(path) + link;
+        path = !link.empty() && link.front() == '/' ? link : folderOf(path) + link;
     }
     reason = "its symbolic links lead round in a circle";
     return false;
