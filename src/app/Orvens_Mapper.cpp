@@ -314,7 +314,8 @@ bool Orvens_Mapper::startUp(const std::string &mapToOpen)
     tileSets_->enableAvailable(paths_.graphicsFolder);
     state_.view.viewLeft = 0;
     state_.view.viewTop = 0;
-    readOptionsFile(state_.optionsFilePath, state_);
+    // Options that cannot be read leave the defaults; the status line says why.
+    const std::optional<FileError> optionsError = readOptionsFile(state_.optionsFilePath, state_);
     if (!loadPictures())
         return false;
     sectorPanel_->reset();
@@ -346,9 +347,9 @@ bool Orvens_Mapper::startUp(const std::string &mapToOpen)
     autosave_->start();
     redrawMap();
     syncLockControls();
-    QTimer::singleShot(200, this, [this] {
+    QTimer::singleShot(200, this, [this, optionsError] {
         showStatus("Please wait, initializing Wayscribe...");
-        showStatus("");
+        showStatus(optionsError ? "The options could not be read: " + optionsError->describe() : "");
     });
     // The splash steps aside by itself once the map is up.
     QTimer::singleShot(2500, about_, &QWidget::close);

@@ -97,7 +97,7 @@ void Orvens_Mapper::addRecentMapsMenu(QMenu *fileMenu)
     for (qsizetype i = 0; i + 1 < items.size(); ++i)
         if (items[i]->objectName() == "mnuFileExit")
             before = items[i + 1];
-    recentMaps_ = new QMenu("Recent &Maps", fileMenu);
+    recentMaps_ = new QMenu("&Recent Maps", fileMenu);
     recentMaps_->setObjectName("mnuFileRecent");
     fileMenu->insertSeparator(before)->setObjectName("mnuFileSepRecent");
     fileMenu->insertMenu(before, recentMaps_);

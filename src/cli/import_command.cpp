@@ -53,7 +53,10 @@ int prepare(const ParsedArgs &p, ImportRun &run, std::ostream &err)
             err << "wayscribe-cli: cannot read options file " << *ini << '\n';
             return kInputError;
         }
-        readOptionsFile(*ini, run.state);
+        if (const std::optional<FileError> error = readOptionsFile(*ini, run.state)) {
+            err << "wayscribe-cli: cannot read options file " << error->describe() << '\n';
+            return kInputError;
+        }
     }
     if (const std::string *map = p.option("--map")) {
         if (!loadMap(*map, *run.world, run.state.document.gameNumber, err))

@@ -1,6 +1,7 @@
 #include "storage/recovery_store.h"
 
 #include "model/file_error.h"
+#include "model/input_file.h"
 #include "model/program_state.h"
 #include "storage/atomic_file.h"
 #include "storage/map_file.h"
@@ -8,8 +9,8 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
-#include <fstream>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -21,6 +22,7 @@ constexpr const char *kMapName = "recovery.om1";
 constexpr const char *kInfoName = "recovery.info";
 constexpr const char *kDeclinedMapName = "declined.om1";
 constexpr const char *kDeclinedInfoName = "declined.info";
+constexpr InputKind kRecoveryInfo{"a recovery note", 64 * 1024};
 
 bool makeFolders(const std::string &folder, std::string &reason)
 {
@@ -52,7 +54,9 @@ bool RecoveryStore::save(const World &world, const ProgramState &state, std::str
     if (!info.open(file(kInfoName), reason))
         return false;
     info.write(state.document.mapFileName);
-    info.write("\n" + std::to_string(::getpid()) + "\n");
+    info.write("\n");
+    info.write(std::to_string(::getpid()));
+    info.write("\n");
     if (!info.commit(reason))
         return false;
     FileError error;
@@ -69,9 +73,14 @@ std::optional<LeftBehindMap> RecoveryStore::leftBehind() const
     if (folder_.empty() || ::stat(file(kMapName).c_str(), &st) != 0 || !S_ISREG(st.st_mode))
         return std::nullopt;
     LeftBehindMap copy{file(kMapName), {}};
-    std::ifstream info(file(kInfoName));
-    long pid = 0;
-    if (std::getline(info, copy.originalName) && info >> pid && pid != ::getpid() && processAlive(pid))
+    InputFile info;
+    std::string text, reason;
+    if (!info.open(file(kInfoName), kRecoveryInfo, reason) || !info.readAll(text, reason))
+        return copy; // the map without its name: restored as a map never saved
+    const std::size_t lineEnd = text.find('\n');
+    copy.originalName = text.substr(0, lineEnd);
+    const long pid = lineEnd == std::string::npos ? 0 : std::strtol(text.c_str() + lineEnd + 1, nullptr, 10);
+    if (pid != ::getpid() && processAlive(pid))
         return std::nullopt; // another copy of the program is running with it
     return copy;
 }
