@@ -46,6 +46,25 @@ int filesIn(const std::string &folder)
     return n;
 }
 
+// A run that changes its map (kept in `keep`, which outlives the run), is
+// autosaved, and goes without a close: a crash.
+void crashWithChanges(const TempDir &keep, const std::string &recoveryFolder, std::string &original)
+{
+    Harness h;
+    h.recoveryFolder = recoveryFolder;
+    original = keep.file("mine.om1");
+    std::filesystem::copy_file(h.saveMap("mine.om1", 6), original);
+    h.start({}, original);
+    h.world->sector(9, 9).terrain = 4;
+    h.state.document.mapChanged = 1;
+    h.window->setWindowTitle("mine.om1* - Wayscribe");
+    h.window->findChild<Autosave *>()->saveNow();
+    QCOMPARE(h.state.document.mapFileName, original);
+    QCOMPARE(h.state.document.mapChanged, 1);
+    QCOMPARE(h.window->windowTitle(), QString("mine.om1* - Wayscribe"));
+    QCOMPARE(filesIn(recoveryFolder), 2);
+}
+
 } // namespace
 
 class DesktopFilesTest : public QObject {
@@ -124,21 +143,7 @@ private slots:
         TempDir recovery;
         const std::string folder = recovery.file("recovery");
         std::string original;
-        {
-            Harness h;
-            h.recoveryFolder = folder;
-            original = h.saveMap("mine.om1", 6);
-            h.start({}, original);
-            h.world->sector(9, 9).terrain = 4;
-            h.state.document.mapChanged = 1;
-            h.window->setWindowTitle("mine.om1* - Wayscribe");
-            h.window->findChild<Autosave *>()->saveNow();
-            QCOMPARE(h.state.document.mapFileName, original);
-            QCOMPARE(h.state.document.mapChanged, 1);
-            QCOMPARE(h.window->windowTitle(), QString("mine.om1* - Wayscribe"));
-            QCOMPARE(filesIn(folder), 2);
-            // The window goes without a close: a crash.
-        }
+        crashWithChanges(recovery, folder, original);
         {
             Harness h;
             h.recoveryFolder = folder;
@@ -163,17 +168,7 @@ private slots:
         TempDir recovery;
         const std::string folder = recovery.file("recovery");
         std::string original;
-        {
-            Harness h;
-            h.recoveryFolder = folder;
-            // The map outlives the run's own folder.
-            original = recovery.file("mine.om1");
-            std::filesystem::copy_file(h.saveMap("mine.om1", 6), original);
-            h.start({}, original);
-            h.world->sector(9, 9).terrain = 4;
-            h.state.document.mapChanged = 1;
-            h.window->findChild<Autosave *>()->saveNow();
-        }
+        crashWithChanges(recovery, folder, original);
         Harness h;
         h.recoveryFolder = folder;
         h.platform.answers = {Answer::Yes};
