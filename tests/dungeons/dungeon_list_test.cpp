@@ -1,27 +1,13 @@
 #include "dungeons/dungeon_list.h"
 #include "model/world.h"
+#include "support/table_rows.h"
 
 #include <gtest/gtest.h>
 
 #include <memory>
 
 using namespace wayscribe;
-
-namespace {
-
-std::vector<std::string> rows(const ReportTable &table)
-{
-    std::vector<std::string> out;
-    for (std::size_t r = 0; r < table.rowCount(); ++r) {
-        std::string row = table.cellText(r, 1);
-        for (int c = 2; c <= table.columnCount(); ++c)
-            row.append("|").append(table.cellText(r, c));
-        out.push_back(row);
-    }
-    return out;
-}
-
-} // namespace
+using namespace wayscribe::test;
 
 TEST(DungeonList, RowsOfDungeonsInUseCountMappedLevelsWhateverTheKnownCount)
 {
@@ -38,7 +24,7 @@ TEST(DungeonList, RowsOfDungeonsInUseCountMappedLevelsWhateverTheKnownCount)
     world->dungeon(150).name = "Crypt";
     world->dungeon(150).levels = 3;
     EXPECT_TRUE(fillDungeonList(table, *world));
-    EXPECT_EQ(rows(table), std::vector<std::string>({"Old Mine|1|2|4", "Crypt|3|0|150"}));
+    EXPECT_EQ(tableRows(table), std::vector<std::string>({"Old Mine|1|2|4", "Crypt|3|0|150"}));
     EXPECT_EQ(table.column(1).kind, SortKind::Text);
     EXPECT_EQ(table.column(4).kind, SortKind::Number);
 }
@@ -65,5 +51,5 @@ TEST(DungeonList, RemovalClearsEveryLevelAndTheOtherRowsKeepTheirNumbers)
     EXPECT_EQ(world->sector(3, 3).note, "DUNGEON: Old Mine");
     ReportTable table = dungeonListTable(*world);
     fillDungeonList(table, *world);
-    EXPECT_EQ(rows(table), std::vector<std::string>({"Cave 2|10|10|2", "Cave 6|10|10|6"}));
+    EXPECT_EQ(tableRows(table), std::vector<std::string>({"Cave 2|10|10|2", "Cave 6|10|10|6"}));
 }

@@ -1,6 +1,7 @@
 #include "model/text.h"
 #include "model/world.h"
 #include "settlements/objects_database.h"
+#include "support/table_rows.h"
 #include "support/test_support.h"
 
 #include <gtest/gtest.h>
@@ -23,21 +24,13 @@ struct Shops {
     ReportTable table = objectsTable(*world);
     ObjectsFilters filters;
 
-    void settlement(int n, const std::string &name)
-    {
-        const auto x = static_cast<std::uint8_t>(n), y = static_cast<std::uint8_t>(n + 10);
-        world->settlement(n) = {1, x, y, ""};
-        world->sector(x, y).settlementNumber = static_cast<std::uint8_t>(n);
-        world->sector(x, y).settlementName = name;
-    }
+    void settlement(int n, const std::string &name) { placeSettlement(*world, n, n, n + 10, name); }
     // Item slot `item` of shop `shop` of settlement n; the shop gets a name.
     void sell(int n, int shop, int item, const std::string &name, const std::string &number,
               const std::string &price)
     {
         world->setShopName(n, shop, "Shop" + std::to_string(shop));
-        world->setItem(n, shop, item, ItemField::Name, name);
-        world->setItem(n, shop, item, ItemField::Number, number);
-        world->setItem(n, shop, item, ItemField::Price, price);
+        stockItem(*world, n, shop, item, name, number, price);
     }
 
     ObjectsFillResult fill(ObjectsMode mode)
@@ -45,21 +38,7 @@ struct Shops {
         filters.mode = mode;
         return List_Update_All(table, *world, filters, platform);
     }
-    // Each row as "settlement|shop|object|#|price".
-    std::vector<std::string> rows() const
-    {
-        std::vector<std::string> out;
-        for (std::size_t r = 0; r < table.rowCount(); ++r) {
-            std::string row;
-            for (int c = 1; c <= table.columnCount(); ++c) {
-                if (c > 1)
-                    row += '|';
-                row += table.cellText(r, c);
-            }
-            out.push_back(row);
-        }
-        return out;
-    }
+    std::vector<std::string> rows() const { return tableRows(table); }
     std::vector<std::string> messages() const
     {
         std::vector<std::string> texts;

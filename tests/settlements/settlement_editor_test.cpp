@@ -25,10 +25,8 @@ struct Editor : ::testing::Test {
 
     void settle(int n, const std::string &name, int x, int y)
     {
-        world->settlement(n) = {1, static_cast<std::uint8_t>(x), static_cast<std::uint8_t>(y), "Realm"};
+        placeSettlement(*world, n, x, y, name, "Realm");
         world->sector(x, y).terrain = 17;
-        world->sector(x, y).settlementNumber = static_cast<std::uint8_t>(n);
-        world->sector(x, y).settlementName = name;
     }
     SettlementFields openOn(int x, int y)
     {

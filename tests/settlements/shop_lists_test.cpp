@@ -1,22 +1,16 @@
 #include "settlements/shop_lists.h"
 
 #include "model/world.h"
+#include "support/test_support.h"
 
 #include <gtest/gtest.h>
 
 #include <memory>
 
 using namespace wayscribe;
+using namespace wayscribe::test;
 
 namespace {
-
-void item(World &w, int s, int shop, int slot, const std::string &name, const std::string &number,
-          const std::string &price)
-{
-    w.setItem(s, shop, slot, ItemField::Name, name);
-    w.setItem(s, shop, slot, ItemField::Number, number);
-    w.setItem(s, shop, slot, ItemField::Price, price);
-}
 
 std::string blanks(int n)
 {
@@ -29,8 +23,8 @@ TEST(ShopListText, LaysOutShopsAndItemsInColumns)
 {
     auto w = std::make_unique<World>();
     w->setShopName(12, 20, "Smithy");
-    item(*w, 12, 20, 1, "Long Sword", "143", "120");
-    item(*w, 12, 20, 2, " Dagger ", " 101", "15 ");
+    stockItem(*w, 12, 20, 1, "Long Sword", "143", "120");
+    stockItem(*w, 12, 20, 2, " Dagger ", " 101", "15 ");
     w->setShopName(12, 21, "  Stables ");
     EXPECT_EQ(shopListText(*w, 12), "20 Smithy" + blanks(21) + "Long Sword (143)" + blanks(13) + "120\r\n" +
                                         blanks(30) + "Dagger (101)" + blanks(17) + "15\r\n" +
@@ -41,13 +35,13 @@ TEST(ShopListText, LaysOutShopsAndItemsInColumns)
     // an item name of 23 or more runs into its price.
     auto v = std::make_unique<World>();
     v->setShopName(1, 110, "Hall");
-    item(*v, 1, 110, 1, "Rope", "7", "2");
+    stockItem(*v, 1, 110, 1, "Rope", "7", "2");
     v->setShopName(1, 5, std::string(30, 'N'));
-    item(*v, 1, 5, 1, std::string(25, 'M'), "", "9");
+    stockItem(*v, 1, 5, 1, std::string(25, 'M'), "", "9");
     v->setShopName(1, 0, "Gaps");
-    item(*v, 1, 0, 3, "Axe", "3", "4");
+    stockItem(*v, 1, 0, 3, "Axe", "3", "4");
     v->setShopName(1, 7, "   "); // a blank name is no shop
-    item(*v, 1, 7, 1, "Hidden", "1", "1");
+    stockItem(*v, 1, 7, 1, "Hidden", "1", "1");
     EXPECT_EQ(shopListText(*v, 1), "0 Gaps" + blanks(30) + "Axe (3)" + blanks(20) + "4\r\n" + "5 " +
                                        std::string(30, 'N') + std::string(25, 'M') + " ()9\r\n" + "110 Hall" +
                                        blanks(23) + "Rope (7)" + blanks(19) + "2\r\n");
@@ -66,9 +60,9 @@ TEST(ShopLists, RowsCompactionAndTheProposedShopNumber)
     EXPECT_EQ(rows[0].name, "First");
     EXPECT_EQ(rows[1].number, 110);
 
-    item(*w, 3, 20, 2, "Bow ", "12", " 30");
-    item(*w, 3, 20, 4, "  ", "lost", "lost");
-    item(*w, 3, 20, 7, "Arrow", "", "1");
+    stockItem(*w, 3, 20, 2, "Bow ", "12", " 30");
+    stockItem(*w, 3, 20, 4, "  ", "lost", "lost");
+    stockItem(*w, 3, 20, 7, "Arrow", "", "1");
     EXPECT_EQ(compactShopItems(*w, 3, 20), 2);
     EXPECT_EQ(w->item(3, 20, 1, ItemField::Name), "Bow "); // moved as stored
     EXPECT_EQ(w->item(3, 20, 1, ItemField::Price), " 30");

@@ -59,53 +59,37 @@ TEST(SortKeys, TextsThatAreNotWholeNumbersHaveNoKey)
         EXPECT_EQ(sortKey(text, SortKind::Number), "") << '"' << text << '"';
 }
 
-TEST(SortList, NumbersSortByValueAndTextsByCharacters)
+TEST(SortList, DescribedOrders)
 {
-    TextList list({"10", "9", "100"});
-    Sort_List(list.table, 1, SortKind::Number, true);
-    EXPECT_EQ(list.shown(), (Texts{"9", "10", "100"}));
-    Sort_List(list.table, 1, SortKind::Text, true);
-    EXPECT_EQ(list.shown(), (Texts{"10", "100", "9"}));
-}
-
-TEST(SortList, NonNumbersComeFirstThenNegativesThenTheRest)
-{
-    TextList list({"12", "abc", "-3", "0"});
-    Sort_List(list.table, 1, SortKind::Number, true);
-    EXPECT_EQ(list.shown(), (Texts{"abc", "-3", "0", "12"}));
-    Sort_List(list.table, 1, SortKind::Number, false);
-    EXPECT_EQ(list.shown(), (Texts{"12", "0", "-3", "abc"}));
-
-    TextList negatives({"-10", "-9", "-100", "-9.5"});
-    Sort_List(negatives.table, 1, SortKind::Number, true);
-    EXPECT_EQ(negatives.shown(), (Texts{"-100", "-10", "-9.5", "-9"}));
-}
-
-TEST(SortList, FixedWidthKeysDecideFractionsAndHugeValues)
-{
-    TextList fractions({"0.5", "1.75", "-0.25", "0.25", "-0.5"});
-    Sort_List(fractions.table, 1, SortKind::Number, true);
-    EXPECT_EQ(fractions.shown(), (Texts{"-0.5", "-0.25", "0.25", "0.5", "1.75"}));
-
-    // Ten decimals are kept: a difference in the eleventh is a tie, and ties
-    // keep their order.
-    TextList tiny({"0.00000000001", "0", "0.0000000001"});
-    Sort_List(tiny.table, 1, SortKind::Number, true);
-    EXPECT_EQ(tiny.shown(), (Texts{"0.00000000001", "0", "0.0000000001"}));
-
-    // Twenty integer digits: 1e20 needs 21 and then sorts by its first digit.
-    TextList huge({"9e19", "1e20", "12345678901234567890"});
-    Sort_List(huge.table, 1, SortKind::Number, true);
-    EXPECT_EQ(huge.shown(), (Texts{"1e20", "12345678901234567890", "9e19"}));
-}
-
-TEST(SortList, TextOrderIgnoresCaseAndEqualKeysKeepTheirOrderBothWays)
-{
-    TextList list({"cherry", "b", "apple", "Banana", "B", "\xC9t\xE9", "\xE9t\xE9"}, SortKind::Text);
-    Sort_List(list.table, 1, SortKind::Text, true);
-    EXPECT_EQ(list.shown(), (Texts{"apple", "b", "B", "Banana", "cherry", "\xC9t\xE9", "\xE9t\xE9"}));
-    Sort_List(list.table, 1, SortKind::Text, false);
-    EXPECT_EQ(list.shown(), (Texts{"\xC9t\xE9", "\xE9t\xE9", "cherry", "Banana", "b", "B", "apple"}));
+    constexpr SortKind number = SortKind::Number, text = SortKind::Text;
+    struct Case {
+        SortKind kind;
+        bool ascending;
+        Texts texts, expected;
+    };
+    const Texts words = {"cherry", "b", "apple", "Banana", "B", "\xC9t\xE9", "\xE9t\xE9"};
+    const Case cases[] = {
+        {number, true, {"10", "9", "100"}, {"9", "10", "100"}},
+        {text, true, {"10", "9", "100"}, {"10", "100", "9"}},
+        // Non-numbers first, then negatives, then the rest.
+        {number, true, {"12", "abc", "-3", "0"}, {"abc", "-3", "0", "12"}},
+        {number, false, {"12", "abc", "-3", "0"}, {"12", "0", "-3", "abc"}},
+        {number, true, {"-10", "-9", "-100", "-9.5"}, {"-100", "-10", "-9.5", "-9"}},
+        {number, true, {"0.5", "1.75", "-0.25", "0.25", "-0.5"}, {"-0.5", "-0.25", "0.25", "0.5", "1.75"}},
+        // Ten decimals are kept: a difference in the eleventh is a tie, and
+        // ties keep their order.
+        {number, true, {"0.00000000001", "0", "0.0000000001"}, {"0.00000000001", "0", "0.0000000001"}},
+        // Twenty integer digits: 1e20 needs 21 and then sorts by its first digit.
+        {number, true, {"9e19", "1e20", "12345678901234567890"}, {"1e20", "12345678901234567890", "9e19"}},
+        // Text order ignores case, and equal keys keep their order both ways.
+        {text, true, words, {"apple", "b", "B", "Banana", "cherry", "\xC9t\xE9", "\xE9t\xE9"}},
+        {text, false, words, {"\xC9t\xE9", "\xE9t\xE9", "cherry", "Banana", "b", "B", "apple"}},
+    };
+    for (const Case &c : cases) {
+        TextList list(c.texts, c.kind);
+        Sort_List(list.table, 1, c.kind, c.ascending);
+        EXPECT_EQ(list.shown(), c.expected) << c.texts[0] << (c.ascending ? " ascending" : " descending");
+    }
 }
 
 TEST(SortList, EachKeyIsComputedOncePerSort)

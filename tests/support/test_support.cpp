@@ -78,4 +78,19 @@ void writeFile(const std::string &path, const std::string &bytes)
     out << bytes;
 }
 
+void placeSettlement(World &world, int n, int x, int y, const std::string &name, const std::string &cityState)
+{
+    world.settlement(n) = {1, static_cast<std::uint8_t>(x), static_cast<std::uint8_t>(y), cityState};
+    world.sector(x, y).settlementNumber = static_cast<std::uint8_t>(n);
+    world.sector(x, y).settlementName = name;
+}
+
+void stockItem(World &world, int n, int shop, int item, const std::string &name, const std::string &number,
+               const std::string &price)
+{
+    world.setItem(n, shop, item, ItemField::Name, name);
+    world.setItem(n, shop, item, ItemField::Number, number);
+    world.setItem(n, shop, item, ItemField::Price, price);
+}
+
 } // namespace wayscribe::test

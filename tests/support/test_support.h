@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/platform.h"
+#include "model/world.h"
 
 #include <deque>
 #include <filesystem>
@@ -64,5 +65,12 @@ private:
 
 std::string readFile(const std::string &path);
 void writeFile(const std::string &path, const std::string &bytes);
+
+// Settlement n in use at (x, y), its sector carrying the number and the name.
+void placeSettlement(World &world, int n, int x, int y, const std::string &name,
+                     const std::string &cityState = {});
+// The three fields of item slot `item` of a shop.
+void stockItem(World &world, int n, int shop, int item, const std::string &name, const std::string &number,
+               const std::string &price);
 
 } // namespace wayscribe::test
