@@ -1,35 +1,19 @@
-#include "app/window_host.h"
 #include "dungeons/ui/frmDungeon.h"
 #include "dungeons/ui/frmDungeonList.h"
-#include "model/change_history.h"
-#include "model/program_state.h"
-#include "model/world.h"
 #include "settlements/ui/report_list_view.h"
-#include "support/test_support.h"
+#include "support/ui/window_fixture.h"
 
 #include <QFontDatabase>
 #include <QLineEdit>
-#include <QMainWindow>
-#include <QMenuBar>
 #include <QPlainTextEdit>
-#include <QPointer>
 #include <QPushButton>
-#include <QTest>
-
-#include <memory>
 
 using namespace wayscribe;
 using namespace wayscribe::test;
 
-class DungeonWindowsTest : public QObject {
+class DungeonWindowsTest : public QObject, WindowFixture {
     Q_OBJECT
 
-    std::unique_ptr<World> world;
-    ProgramState state;
-    ScriptedPlatform platform;
-    std::unique_ptr<ChangeHistory> history;
-    std::unique_ptr<QMainWindow> main;
-    WindowHost *host = nullptr;
     QPointer<frmDungeon> dungeon;
     QPointer<frmDungeonList> list;
 
@@ -42,21 +26,19 @@ class DungeonWindowsTest : public QObject {
     {
         state.selection.selDungeon = static_cast<std::int16_t>(d);
         dungeon = new frmDungeon(*world, state, *history, main.get());
-        host->open(dungeon);
-        QVERIFY(QTest::qWaitForWindowExposed(dungeon));
+        openWindow(dungeon);
     }
     void openList()
     {
         list = new frmDungeonList(*world, state, platform, *history, *host, main.get());
-        host->open(list);
-        QVERIFY(QTest::qWaitForWindowExposed(list));
+        openWindow(list);
     }
     ReportListView *rows() { return in<ReportListView>(list, "lstNotes"); }
 
 private slots:
     void init()
     {
-        world = std::make_unique<World>();
+        resetWindows();
         Dungeon &mine = world->dungeon(3);
         mine.name = "Old Mine";
         mine.levels = 2;
@@ -64,21 +46,8 @@ private slots:
         mine.level[2] = {" #D#", "deep"};
         world->dungeon(8).name = "Crypt";
         world->sector(40, 60).note = "DUNGEON: Old Mine. 2+ levels.";
-        state = ProgramState{};
-        platform = ScriptedPlatform{};
-        history = std::make_unique<ChangeHistory>(*world, state.document);
-        main = std::make_unique<QMainWindow>();
-        main->setCentralWidget(new QWidget);
-        main->menuBar()->addMenu("&File");
-        host = new WindowHost(main.get(), [] {});
-        main->show();
     }
-    void cleanup()
-    {
-        delete list;
-        delete dungeon;
-        main.reset();
-    }
+    void cleanup() { closeWindows(); }
 
     void showsTheDeepestMappedLevelInAFixedPitchFont()
     {

@@ -1,34 +1,18 @@
-#include "app/window_host.h"
 #include "dungeons/ui/frmDungeon.h"
-#include "model/change_history.h"
-#include "model/program_state.h"
-#include "model/world.h"
 #include "notes/ui/frmNote.h"
-#include "support/test_support.h"
+#include "support/ui/window_fixture.h"
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QMainWindow>
-#include <QMenuBar>
 #include <QPlainTextEdit>
-#include <QPointer>
 #include <QPushButton>
-#include <QTest>
-
-#include <memory>
 
 using namespace wayscribe;
 using namespace wayscribe::test;
 
-class NoteEditorTest : public QObject {
+class NoteEditorTest : public QObject, WindowFixture {
     Q_OBJECT
 
-    std::unique_ptr<World> world;
-    ProgramState state;
-    ScriptedPlatform platform;
-    std::unique_ptr<ChangeHistory> history;
-    std::unique_ptr<QMainWindow> main;
-    WindowHost *host = nullptr;
     QPointer<frmNote> window;
 
     std::string &note() { return world->sector(12, 34).note; }
@@ -58,24 +42,8 @@ class NoteEditorTest : public QObject {
     }
 
 private slots:
-    void init()
-    {
-        world = std::make_unique<World>();
-        state = ProgramState{};
-        platform = ScriptedPlatform{};
-        history = std::make_unique<ChangeHistory>(*world, state.document);
-        main = std::make_unique<QMainWindow>();
-        main->setCentralWidget(new QWidget);
-        main->menuBar()->addMenu("&File");
-        host = new WindowHost(main.get(), [] {});
-        main->show();
-    }
-    void cleanup()
-    {
-        delete window;
-        delete dungeonWindow();
-        main.reset();
-    }
+    void init() { resetWindows(); }
+    void cleanup() { closeWindows(); }
 
     void opensOnTheTrimmedNote()
     {
@@ -175,16 +143,6 @@ private slots:
         button("cmdSeeDungeon")->click();
         QVERIFY(window);
         QCOMPARE(world->dungeon(2).name, std::string(""));
-    }
-
-    void goToDungeonCreatesOneWithoutAFullStop()
-    {
-        open("DUNGEON: Crypt");
-        button("cmdSeeDungeon")->click();
-        checkClosed();
-        QCOMPARE(world->dungeon(1).name, std::string("Crypt"));
-        QCOMPARE(world->dungeon(1).levels, 0);
-        QCOMPARE(dungeonWindow()->findChild<QLineEdit *>("txtLevels")->text(), QString(" 0"));
     }
 
     void goToDungeonWithAFullTableShowsSlotZero()

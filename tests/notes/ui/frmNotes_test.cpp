@@ -1,36 +1,20 @@
-#include "app/window_host.h"
-#include "model/change_history.h"
-#include "model/program_state.h"
-#include "model/world.h"
 #include "notes/ui/frmNote.h"
 #include "notes/ui/frmNotes.h"
 #include "settlements/ui/report_list_view.h"
-#include "support/test_support.h"
+#include "support/ui/window_fixture.h"
 
 #include <QCheckBox>
 #include <QLineEdit>
-#include <QMainWindow>
-#include <QMenuBar>
 #include <QPlainTextEdit>
-#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QTest>
-
-#include <memory>
 
 using namespace wayscribe;
 using namespace wayscribe::test;
 
-class NotesDatabaseTest : public QObject {
+class NotesDatabaseTest : public QObject, WindowFixture {
     Q_OBJECT
 
-    std::unique_ptr<World> world;
-    ProgramState state;
-    ScriptedPlatform platform;
-    std::unique_ptr<ChangeHistory> history;
-    std::unique_ptr<QMainWindow> main;
-    WindowHost *host = nullptr;
     QPointer<frmNotes> window;
 
     template <class T> T *find(const char *name) { return window->findChild<T *>(name); }
@@ -45,8 +29,7 @@ class NotesDatabaseTest : public QObject {
     void open()
     {
         window = new frmNotes(*world, state, platform, *history, *host, main.get());
-        host->open(window);
-        QVERIFY(QTest::qWaitForWindowExposed(window));
+        openWindow(window);
     }
     void search(const QString &text, bool orMode)
     {
@@ -59,29 +42,13 @@ class NotesDatabaseTest : public QObject {
 private slots:
     void init()
     {
-        world = std::make_unique<World>();
+        resetWindows();
         world->sector(5, 1).note = "DUNGEON: Old Mine. 3+ levels.";
         world->sector(9, 1).note = "Market day";
         world->sector(9, 1).settlementName = "Oakvale";
         world->sector(100, 150).note = "Level ground";
-        state = ProgramState{};
-        state.view.viewCols = 40;
-        state.view.viewRows = 30;
-        platform = ScriptedPlatform{};
-        history = std::make_unique<ChangeHistory>(*world, state.document);
-        main = std::make_unique<QMainWindow>();
-        main->setCentralWidget(new QWidget);
-        main->menuBar()->addMenu("&File");
-        host = new WindowHost(main.get(), [] {});
-        main->show();
     }
-    void cleanup()
-    {
-        delete window;
-        for (frmNote *editor : main->findChildren<frmNote *>())
-            delete editor;
-        main.reset();
-    }
+    void cleanup() { closeWindows(); }
 
     void listsEveryNoteAndFiltersOnlyWhenRefilled()
     {

@@ -1,66 +1,48 @@
-#include "model/program_state.h"
-#include "model/world.h"
 #include "settlements/ui/frmSettList.h"
 #include "settlements/ui/report_list_view.h"
-#include "support/test_support.h"
+#include "support/ui/window_fixture.h"
 
 #include <QHeaderView>
-#include <QPointer>
 #include <QPushButton>
-#include <QTest>
-
-#include <memory>
 
 using namespace wayscribe;
 using namespace wayscribe::test;
 
-namespace {
+class SettlementListingTest : public QObject, WindowFixture {
+    Q_OBJECT
 
-void place(World &world, int n, int x, int y, const std::string &name)
-{
-    world.settlement(n) = {1, static_cast<std::uint8_t>(x), static_cast<std::uint8_t>(y), ""};
-    world.sector(x, y).settlementNumber = static_cast<std::uint8_t>(n);
-    world.sector(x, y).settlementName = name;
-}
-
-struct Listing {
-    std::unique_ptr<World> world = std::make_unique<World>();
-    ViewState view;
-    ScriptedPlatform platform;
     QPointer<frmSettList> window;
 
-    Listing()
-    {
-        view.viewCols = 40;
-        view.viewRows = 30;
-        view.viewLeft = 77;
-        view.viewTop = 77;
-    }
-    ~Listing() { delete window.data(); }
     void open()
     {
-        window = new frmSettList(*world, view, platform, nullptr);
-        window->show();
-        QVERIFY(QTest::qWaitForWindowExposed(window.data()));
+        window = new frmSettList(*world, state.view, platform, main.get());
+        openWindow(window);
     }
     ReportListView *list() { return window->findChild<ReportListView *>("lstNotes"); }
     QPushButton *go() { return window->findChild<QPushButton *>("cmdGoto"); }
-};
+    void placeTwo()
+    {
+        placeSettlement(*world, 12, 3, 4, "Ashford");
+        placeSettlement(*world, 150, 199, 198, "Brill");
+    }
 
-} // namespace
-
-class SettlementListingTest : public QObject {
-    Q_OBJECT
 private slots:
+    void init()
+    {
+        resetWindows();
+        state.view.viewLeft = 77;
+        state.view.viewTop = 77;
+    }
+    void cleanup() { closeWindows(); }
+
     void aMapWithoutSettlementsShowsNoList()
     {
-        Listing l;
-        l.open();
-        QCOMPARE(l.window->windowTitle(), QString("Settlement Listing"));
-        QVERIFY(l.list()->isHidden());
-        QVERIFY(!l.go()->isEnabled());
-        QTest::mouseClick(l.go(), Qt::LeftButton);
-        QVERIFY(l.window);
+        open();
+        QCOMPARE(window->windowTitle(), QString("Settlement Listing"));
+        QVERIFY(list()->isHidden());
+        QVERIFY(!go()->isEnabled());
+        QTest::mouseClick(go(), Qt::LeftButton);
+        QVERIFY(window);
     }
 
     void goingToASettlementNearTheEdgesClampsTheView_data()
@@ -76,41 +58,36 @@ private slots:
         QFETCH(int, row);
         QFETCH(int, left);
         QFETCH(int, top);
-        Listing l;
-        place(*l.world, 12, 3, 4, "Ashford");
-        place(*l.world, 150, 199, 198, "Brill");
-        l.open();
-        QVERIFY(!l.list()->isHidden());
-        QVERIFY(l.go()->isEnabled());
+        placeTwo();
+        open();
+        QVERIFY(!list()->isHidden());
+        QVERIFY(go()->isEnabled());
         // Rows but none selected: nothing happens.
-        QTest::mouseClick(l.go(), Qt::LeftButton);
-        QVERIFY(l.window);
+        QTest::mouseClick(go(), Qt::LeftButton);
+        QVERIFY(window);
 
-        l.list()->selectRow(row);
-        QTest::mouseClick(l.go(), Qt::LeftButton);
-        QCOMPARE(int(l.view.viewLeft), left);
-        QCOMPARE(int(l.view.viewTop), top);
-        QCOMPARE(l.platform.redraws, 1);
-        QTRY_VERIFY(!l.window);
+        list()->selectRow(row);
+        QTest::mouseClick(go(), Qt::LeftButton);
+        QCOMPARE(int(state.view.viewLeft), left);
+        QCOMPARE(int(state.view.viewTop), top);
+        QCOMPARE(platform.redraws, 1);
+        QTRY_VERIFY(!window);
     }
 
     void aDoubleClickOnASortedListGoesToThatRow()
     {
-        Listing l;
-        place(*l.world, 12, 3, 4, "Ashford");
-        place(*l.world, 150, 199, 198, "Brill");
-        l.open();
-        ReportListView *list = l.list();
-        QHeaderView *header = list->horizontalHeader();
+        placeTwo();
+        open();
+        QHeaderView *header = list()->horizontalHeader();
         const QPoint number(header->sectionViewportPosition(1) + 5, header->height() / 2);
         QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, number);
         QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, number);
-        QCOMPARE(list->model()->index(0, 1).data().toString(), QString("150"));
-        const QPoint first = list->visualRect(list->model()->index(0, 0)).center();
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, first);
-        QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, first);
-        QCOMPARE(int(l.view.viewLeft), 160);
-        QTRY_VERIFY(!l.window);
+        QCOMPARE(list()->model()->index(0, 1).data().toString(), QString("150"));
+        const QPoint first = list()->visualRect(list()->model()->index(0, 0)).center();
+        QTest::mouseClick(list()->viewport(), Qt::LeftButton, {}, first);
+        QTest::mouseDClick(list()->viewport(), Qt::LeftButton, {}, first);
+        QCOMPARE(int(state.view.viewLeft), 160);
+        QTRY_VERIFY(!window);
     }
 };
 

@@ -1,10 +1,7 @@
 #include "settlements/ui/frmSettlement.h"
 
-#include "model/change_history.h"
-#include "model/program_state.h"
-#include "model/world.h"
 #include "settlements/ui/report_list_view.h"
-#include "support/test_support.h"
+#include "support/ui/window_fixture.h"
 
 #include <QAction>
 #include <QLabel>
@@ -12,20 +9,13 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QTest>
-
-#include <memory>
 
 using namespace wayscribe;
 using namespace wayscribe::test;
 
-class SettlementWindowTest : public QObject {
+class SettlementWindowTest : public QObject, WindowFixture {
     Q_OBJECT
 
-    std::unique_ptr<World> world;
-    ProgramState state;
-    ScriptedPlatform platform;
-    std::unique_ptr<ChangeHistory> history;
     QPointer<frmSettlement> window;
 
     template <typename T> T *child(const char *name) { return window->findChild<T *>(name); }
@@ -56,23 +46,16 @@ class SettlementWindowTest : public QObject {
 private slots:
     void init()
     {
-        world = std::make_unique<World>();
-        world->settlement(12) = {1, 57, 112, "Realm"};
+        resetWindows();
+        placeSettlement(*world, 12, 57, 112, "Oakvale", "Realm");
         world->sector(57, 112).terrain = 17;
-        world->sector(57, 112).settlementNumber = 12;
-        world->sector(57, 112).settlementName = "Oakvale";
         world->sector(57, 112).note = "Old well\r\nand a mill";
         world->setShopName(12, 20, "Smithy");
-        world->setItem(12, 20, 1, ItemField::Name, "Long Sword");
-        world->setItem(12, 20, 1, ItemField::Number, "143");
-        world->setItem(12, 20, 1, ItemField::Price, "120");
-        world->setItem(12, 20, 2, ItemField::Name, "Dagger");
-        world->setItem(12, 20, 2, ItemField::Price, "15");
+        stockItem(*world, 12, 20, 1, "Long Sword", "143", "120");
+        stockItem(*world, 12, 20, 2, "Dagger", "", "15");
         world->setShopName(12, 21, "Stables");
-        state = ProgramState{};
-        platform = ScriptedPlatform{};
-        history = std::make_unique<ChangeHistory>(*world, state.document);
     }
+    // The editor and the dialogs it opened stand on their own.
     void cleanup()
     {
         QList<QPointer<QWidget>> windows;
@@ -81,6 +64,7 @@ private slots:
                 windows << w;
         for (const QPointer<QWidget> &w : windows)
             delete w.data();
+        closeWindows();
     }
 
     void showsTheSettlementItsShopsAndTheirItems()
