@@ -1,6 +1,8 @@
 #include "cli/cli_runner.h"
 
-#include "support/test_support.h"
+#include "storage/map_file.h"
+
+#include <gtest/gtest.h>
 
 #include <cstdlib>
 #include <sys/wait.h>
@@ -34,6 +36,14 @@ CliResult runCli(const std::vector<std::string> &args)
     r.out = readFile(dir.file("out"));
     r.err = readFile(dir.file("err"));
     return r;
+}
+
+std::string saveMap(const TempDir &dir, const std::string &name, const World &world, int gameNumber)
+{
+    FileError error;
+    EXPECT_TRUE(writeMapFile(dir.file(name), world, static_cast<std::uint8_t>(gameNumber), error))
+        << error.describe();
+    return dir.file(name);
 }
 
 } // namespace wayscribe::test

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "model/world.h"
+#include "support/test_support.h"
+
 #include <string>
 #include <vector>
 
@@ -13,5 +16,8 @@ struct CliResult {
 
 // Runs the built wayscribe-cli with the given arguments.
 CliResult runCli(const std::vector<std::string> &args);
+
+// Saves `world` as `name` in `dir` and gives its path.
+std::string saveMap(const TempDir &dir, const std::string &name, const World &world, int gameNumber = 1);
 
 } // namespace wayscribe::test

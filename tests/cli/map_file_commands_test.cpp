@@ -1,7 +1,4 @@
 #include "cli/cli_runner.h"
-#include "model/world.h"
-#include "storage/map_file.h"
-#include "support/test_support.h"
 
 #include <gtest/gtest.h>
 
@@ -22,9 +19,7 @@ std::string sampleMap(const TempDir &dir, const std::string &name, int terrain)
     w->setShopName(7, 1, "Smithy");
     w->setItem(7, 1, 1, ItemField::Name, "Axe");
     w->dungeon(4).name = "Pit";
-    FileError e;
-    writeMapFile(dir.file(name), *w, 12, e);
-    return dir.file(name);
+    return saveMap(dir, name, *w, 12);
 }
 } // namespace
 
@@ -72,14 +67,4 @@ TEST(CliMapCommands, BadInputExitsWithOneAndWritesNothing)
     }
     CliResult r = runCli({"convert", dir.file("cut.om1"), dir.file("out.om1")});
     EXPECT_NE(r.err.find("cut.om1, line "), std::string::npos) << r.err;
-}
-
-TEST(CliMapCommands, BadUsageExitsWithTwo)
-{
-    EXPECT_EQ(runCli({}).status, 2);
-    EXPECT_EQ(runCli({"frobnicate"}).status, 2);
-    EXPECT_EQ(runCli({"convert", "only-one"}).status, 2);
-    EXPECT_EQ(runCli({"merge", "a", "b"}).status, 2);
-    EXPECT_EQ(runCli({"merge", "a", "b", "--out"}).status, 2);
-    EXPECT_EQ(runCli({"stats"}).status, 2);
 }

@@ -1,8 +1,5 @@
 #include "cli/cli_runner.h"
 #include "model/terrain.h"
-#include "model/world.h"
-#include "storage/map_file.h"
-#include "support/test_support.h"
 
 #include <gtest/gtest.h>
 
@@ -20,9 +17,7 @@ std::string pathMap(const TempDir &dir)
     const int row[] = {kOpen, kForest, kDesert, kWater, kRoad};
     for (int i = 0; i < 5; ++i)
         w->sector(11 + i, 10).terrain = static_cast<std::uint8_t>(row[i]);
-    FileError e;
-    EXPECT_TRUE(writeMapFile(dir.file("path.om1"), *w, 1, e)) << e.describe();
-    return dir.file("path.om1");
+    return saveMap(dir, "path.om1", *w);
 }
 
 } // namespace
@@ -48,37 +43,15 @@ TEST(CliPath, CountsThePathWithTheMountAndPrintsTheOrders)
     // Nine moves make two orders.
     r = runCli({"path", map, "--mount", "flying", "1,1", "2,1", "3,1", "4,1", "5,1", "6,1", "7,1", "8,1",
                 "9,1", "9,2"});
-    EXPECT_EQ(r.status, 0) << r.err;
     EXPECT_EQ(r.out, "Movement points: 0\nSquares: 9\nM 33333333\nM 5\n");
 }
 
-TEST(CliPath, NoMovesNoOrdersAndBadInputs)
+TEST(CliPath, NoMovesNoOrders)
 {
     TempDir dir;
-    const std::string map = pathMap(dir);
-
-    CliResult r = runCli({"path", map, "10,10"});
+    const CliResult r = runCli({"path", pathMap(dir), "10,10"});
     EXPECT_EQ(r.status, 0) << r.err;
     EXPECT_EQ(r.out, "Movement points: 0\nSquares: 0\n");
     EXPECT_EQ(r.err, "No orders were copied to your clipboard. \n"
                      "Please select at least 1 movement square after the start square.\n");
-
-    for (const auto &args : {std::vector<std::string>{"path", map, "0,5"},
-                             {"path", map, "5,201"},
-                             {"path", map, "5"},
-                             {"path", map, "5,5x"},
-                             {"path", map, "forward"},
-                             {"path", map, "--mount", "camels", "5,5"},
-                             {"path"}}) {
-        r = runCli(args);
-        EXPECT_EQ(r.status, 2) << args.back();
-        EXPECT_EQ(r.out, "");
-    }
-
-    writeFile(dir.file("broken.om1"), "v017\r\nnot a number\r\n");
-    r = runCli({"path", dir.file("broken.om1"), "1,1"});
-    EXPECT_EQ(r.status, 1);
-    EXPECT_EQ(r.out, "");
-    EXPECT_NE(r.err.find("broken.om1"), std::string::npos) << r.err;
-    EXPECT_NE(r.err.find("line"), std::string::npos) << r.err;
 }
