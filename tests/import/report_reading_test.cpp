@@ -38,34 +38,6 @@ TEST(ReportReading, ReportsThatCannotBeReadSayWhy)
     EXPECT_EQ(error.reason, "it is a folder, not a file");
 }
 
-TEST(ReportReading, NumbersThatDoNotFitStopAtTheirLine)
-{
-    TempDir dir;
-    writeFile(dir.file("r.htm"), "one\r\ntwo\r\n");
-    ReportReader in;
-    FileError error;
-    ASSERT_TRUE(in.open(dir.file("r.htm"), error));
-    std::string t;
-    in.readLine(t);
-    in.readLine(t);
-    EXPECT_EQ(in.wholeNumber(" 2.5x", 0, 255, "game number"), 2); // halves to even
-    try {
-        in.wholeNumber("-1", 0, 255, "game number");
-        FAIL() << "no failure";
-    } catch (const ReportFailure &f) {
-        EXPECT_EQ(f.error.describe(), dir.file("r.htm") +
-                                          ", line 2: the game number \"-1\" does not fit its field "
-                                          "(0 to 255)");
-    }
-    try {
-        in.requireField(t, "the shop list");
-        FAIL() << "no failure";
-    } catch (const ReportFailure &f) {
-        EXPECT_EQ(f.error.reason, "the report ends inside the shop list");
-        EXPECT_EQ(f.error.line, 2);
-    }
-}
-
 TEST(ReportReading, AccumulatorFindsPhrasesAcrossAppendsAndCuts)
 {
     ParagraphAccumulator acc;

@@ -65,16 +65,6 @@ TEST_F(WildernessMap, KnownTerrainIsOverwrittenButNeverMadeUnknown)
     EXPECT_TRUE(platform.messages.empty());
 }
 
-TEST_F(WildernessMap, WithoutTheMapOptionThePartyIsStillFound)
-{
-    state.options.importMap = false;
-    readData("banner_town.htm");
-    EXPECT_EQ(at(45, 67).terrain, 1);
-    EXPECT_EQ(at(46, 68).terrain, 1);
-    EXPECT_EQ(at(46, 68).settlementNumber, 23);
-    EXPECT_EQ(world->settlement(23).x, 46);
-}
-
 TEST_F(WildernessMap, CellsPastTheWorldsEdgeAreSkippedAndTheViewStaysInside)
 {
     ReportShape shape;
