@@ -24,20 +24,12 @@ protected:
     ProgramState state;
     ScriptedPlatform platform;
 
-    void settle(int n, const std::string &name, int x, int y)
-    {
-        world->settlement(n) = {1, static_cast<std::uint8_t>(x), static_cast<std::uint8_t>(y), ""};
-        world->sector(x, y).settlementNumber = static_cast<std::uint8_t>(n);
-        world->sector(x, y).settlementName = name;
-    }
-
+    void settle(int n, const std::string &name, int x, int y) { placeSettlement(*world, n, x, y, name); }
     void sell(int n, int shop, int item, const std::string &name, const std::string &number,
               const std::string &price)
     {
         world->setShopName(n, shop, "Harbour");
-        world->setItem(n, shop, item, ItemField::Name, name);
-        world->setItem(n, shop, item, ItemField::Number, number);
-        world->setItem(n, shop, item, ItemField::Price, price);
+        stockItem(*world, n, shop, item, name, number, price);
     }
 
     // Alpha, Beta and Gamma in a row, ten sectors apart.

@@ -40,9 +40,7 @@ public:
             if (below(10) == 0 && !(shape.fanOut && n <= 111))
                 continue; // a free number: journeys to it lead to a place without journeys
             const int x = 1 + below(kMapSize), y = 1 + below(kMapSize);
-            world.settlement(n) = {1, static_cast<std::uint8_t>(x), static_cast<std::uint8_t>(y), ""};
-            world.sector(x, y).settlementNumber = static_cast<std::uint8_t>(n);
-            world.sector(x, y).settlementName = "Town" + std::to_string(n);
+            placeSettlement(world, n, x, y, "Town" + std::to_string(n));
             const bool fan = shape.fanOut && n <= 111;
             const int journeys = fan ? kJourneysPerSettlement : below(shape.maxJourneys + 1);
             for (int j = 0; j < journeys; ++j) {
@@ -56,9 +54,7 @@ public:
                     name = "Passage (" + std::to_string(n == 1 ? 2 + j : 112 + below(49)) + ")";
                     cost = std::to_string(n == 1 ? 1 + below(3) : 50 + below(shape.maxPrice));
                 }
-                world.setItem(n, shop, item, ItemField::Name, name);
-                world.setItem(n, shop, item, ItemField::Number, std::to_string(below(500)));
-                world.setItem(n, shop, item, ItemField::Price, cost);
+                stockItem(world, n, shop, item, name, std::to_string(below(500)), cost);
             }
         }
     }
