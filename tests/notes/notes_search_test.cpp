@@ -46,16 +46,6 @@ TEST(SearchTerms, SplitAtEveryPlusTrimmedAndInLowerCase)
     EXPECT_EQ(searchTerms("\tX\t+ \xC9t\xC9 "), Strings({"\tx\t", "\xE9t\xE9"}));
 }
 
-TEST(SearchTerms, TermsAfterTheTwentiethAreIgnored)
-{
-    std::string text = "1";
-    for (int i = 2; i <= 25; ++i)
-        text.append("+").append(std::to_string(i));
-    const Strings terms = searchTerms(text);
-    ASSERT_EQ(terms.size(), 20u);
-    EXPECT_EQ(terms.back(), "20");
-}
-
 TEST_F(NotesSearch, RowsComeRowByRowWithTheNoteAsStoredAndBlankLedCoordinates)
 {
     note(200, 1, "east");
@@ -114,18 +104,4 @@ TEST_F(NotesSearch, TwentyTermsAreSearchedTheTwentyFirstIsNot)
     note(1, 1, "a");
     EXPECT_EQ(search(text + "+zzz"), Strings({"a"}));
     EXPECT_EQ(search(text + "+zzz", PlusMeans::Or).size(), 20u);
-}
-
-TEST_F(NotesSearch, ListSortsNotesAsTextAndPositionsAsNumbers)
-{
-    EXPECT_EQ(table.column(1).kind, SortKind::Text);
-    EXPECT_EQ(table.column(2).kind, SortKind::Number);
-    EXPECT_EQ(table.column(3).kind, SortKind::Number);
-    EXPECT_EQ(table.column(1).title, "Note");
-    EXPECT_EQ(table.column(3).title, "Y Pos");
-}
-
-TEST(NoteRemoval, QuestionWritesTheCoordinatesWithALeadingBlank)
-{
-    EXPECT_EQ(noteRemovalQuestion(12, 200), "Really remove note at  12,  200?");
 }
