@@ -4,7 +4,6 @@
 #include "view/draw/click_drawing.h"
 #include "view/draw/map_drawing.h"
 #include "view/draw/minimap_drawing.h"
-#include "view/draw/tile_sheet.h"
 #include "view/map_brush.h"
 
 #include <gtest/gtest.h>
@@ -22,10 +21,7 @@ class ClickDrawing : public ::testing::Test {
 protected:
     ClickDrawing()
     {
-        writeTileSet(dir.file("graphics"), "kjc_set1");
-        writeMarkers(dir.file("graphics"));
-        EXPECT_EQ(sheet.loadTileSet(dir.file("graphics"), "kjc_set1"), "");
-        EXPECT_EQ(sheet.loadMarkers(dir.file("graphics")), "");
+        loadSyntheticSheet(sheet, dir);
         state.view.viewCols = 6;
         state.view.viewRows = 5;
     }

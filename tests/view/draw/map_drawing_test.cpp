@@ -3,7 +3,6 @@
 #include "synthetic_graphics.h"
 #include "view/draw/map_drawing.h"
 #include "view/draw/minimap_drawing.h"
-#include "view/draw/tile_sheet.h"
 
 #include <gtest/gtest.h>
 
@@ -20,10 +19,7 @@ class MapDrawing : public ::testing::Test {
 protected:
     MapDrawing()
     {
-        writeTileSet(dir.file("graphics"), "kjc_set1");
-        writeMarkers(dir.file("graphics"));
-        EXPECT_EQ(sheet.loadTileSet(dir.file("graphics"), "kjc_set1"), "");
-        EXPECT_EQ(sheet.loadMarkers(dir.file("graphics")), "");
+        loadSyntheticSheet(sheet, dir);
         state.view.viewCols = 5;
         state.view.viewRows = 4;
         picture.fill(kGrey);

@@ -4,6 +4,7 @@
 // drawing tells which picture it came from.
 #include "model/terrain.h"
 #include "support/test_support.h"
+#include "view/draw/tile_sheet.h"
 #include "view/tile_files.h"
 
 #include <QImage>
@@ -75,6 +76,16 @@ inline void writeMarkers(const std::string &graphics)
     const char *feet[] = {"foot.gif", "foot2.gif", "foot3.gif", "foot4.gif"};
     for (int i = 0; i < 4; ++i)
         savePicture(solid(8, 10, footColour(i + 1)), graphics + "/" + feet[i]);
+}
+
+// A sheet of the tiles of set kjc_set1 and the markers, written into `dir`.
+inline void loadSyntheticSheet(TileSheet &sheet, const TempDir &dir)
+{
+    const std::string graphics = dir.file("graphics");
+    writeTileSet(graphics, "kjc_set1");
+    writeMarkers(graphics);
+    if (!sheet.loadTileSet(graphics, "kjc_set1").empty() || !sheet.loadMarkers(graphics).empty())
+        throw std::runtime_error("cannot read the test pictures in " + graphics);
 }
 
 } // namespace wayscribe::test

@@ -1,5 +1,4 @@
 #include "synthetic_graphics.h"
-#include "view/draw/tile_sheet.h"
 
 #include <gtest/gtest.h>
 
@@ -20,13 +19,8 @@ QRgb entryPixel(const TileSheet &sheet, int entry, QPoint offset = {})
 TEST(TileSheet, PlacesEveryTileAndMarkerAtItsSheetPosition)
 {
     TempDir dir;
-    const std::string graphics = dir.file("graphics");
-    writeTileSet(graphics, "kjc_set1");
-    writeMarkers(graphics);
-
     TileSheet sheet;
-    EXPECT_EQ(sheet.loadTileSet(graphics, "kjc_set1"), "");
-    EXPECT_EQ(sheet.loadMarkers(graphics), "");
+    loadSyntheticSheet(sheet, dir);
 
     EXPECT_EQ(TileSheet::entryPosition(18), QPoint(288, 0));
     EXPECT_EQ(TileSheet::entryPosition(TileSheet::kSpecialIcon), QPoint(64, 17));
