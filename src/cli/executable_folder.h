@@ -4,8 +4,12 @@
 
 namespace wayscribe::cli {
 
-// The folder the running program file lies in, without a trailing '/'; the
-// program's pictures are in its "graphics" folder. Empty when it cannot be told.
+// The folder the running program file lies in, without a trailing '/'. Empty
+// when it cannot be told.
 std::string executableFolder();
+
+// The folder of the program's pictures, found from executableFolder() as the
+// desktop program finds its own.
+std::string graphicsFolder();
 
 } // namespace wayscribe::cli
