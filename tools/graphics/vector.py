@@ -161,13 +161,15 @@ class Stroke:
         return min(ys) - self.width / 2, max(ys) + self.width / 2
 
     def spans(self, y):
-        return [tuple(s) for s in _merge(s for a, b in self.segments for s in _capsule_span(a, b, self.width / 2, y))]
+        pieces = (s for a, b in self.segments for s in _capsule_span(a, b, self.width / 2, y))
+        return [tuple(s) for s in _merge(pieces)]
 
     def svg(self):
         dash = "" if self.dash is None else ' stroke-dasharray="%g %g"' % self.dash
         return (
             '<polyline points="%s" fill="none" stroke="%s" stroke-width="%g" '
-            'stroke-linecap="round" stroke-linejoin="round"%s/>' % (_points(self.points), _hex(self.colour), self.width, dash)
+            'stroke-linecap="round" stroke-linejoin="round"%s/>'
+            % (_points(self.points), _hex(self.colour), self.width, dash)
         )
 
 
