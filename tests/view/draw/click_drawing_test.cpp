@@ -78,6 +78,18 @@ TEST_F(ClickDrawing, PaintedRoadWithANoteLooksAsAFullRedrawDrawsIt)
     EXPECT_EQ(minimap.image.pixel(1, 1), qRgb(255, 255, 255));
 }
 
+TEST_F(ClickDrawing, ARoadInTheViewsCornerJoinsRoadsOutsideThePictureAsAFullRedrawDoes)
+{
+    state.view.viewLeft = 5;
+    state.view.viewTop = 5;
+    for (const auto &[x, y] : {std::pair{5, 5}, {6, 5}, {7, 5}, {5, 6}, {5, 7}})
+        setTerrain(x, y, kRoad);
+    drawMap(picture, *world, state, sheet);
+    brush(6, 6, kRoad);
+    finishMapClick(picture, minimap, *world, state);
+    EXPECT_EQ(picture, fullRedraw());
+}
+
 TEST_F(ClickDrawing, OnlyTheBrushedTileIsRedrawnNeighboursKeepTheirRoadLines)
 {
     setTerrain(2, 2, kRoad);

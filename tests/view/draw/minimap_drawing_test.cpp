@@ -2,7 +2,6 @@
 #include "model/terrain.h"
 #include "model/world.h"
 #include "view/draw/minimap_drawing.h"
-#include "view/draw/road_lines.h"
 
 #include <gtest/gtest.h>
 
@@ -95,36 +94,6 @@ TEST_F(MinimapDrawing, SingleEditShowsTheEditedSectorUntilTheNextFullRedraw)
     recolourMinimapSector(minimap, *world, 0, 201); // outside the world: nothing
     Refresh_MiniMap(minimap, *world, state);
     EXPECT_EQ(minimap.image.pixel(0, 0), kBlack);
-}
-
-TEST(DrawRoads, JoinsTheNewRoadAndItsRoadNeighboursOnly)
-{
-    auto world = std::make_unique<World>();
-    const QRgb grey = qRgb(128, 128, 128);
-    QImage map(5 * 16, 4 * 16, QImage::Format_RGB32);
-    map.fill(grey);
-    // (10, 10) is shown in view column 3, row 2: px = 32, py = 16.
-    world->sector(10, 10).terrain = kRoad;
-    world->sector(9, 10).terrain = kRoad;  // west: gets its line back
-    world->sector(11, 10).terrain = kCity; // east: gets none
-    world->sector(10, 9).terrain = kRoad;  // north: its tile is above the picture
-    Draw_Roads(map, *world, 10, 10, 3, 2);
-
-    EXPECT_EQ(map.pixel(32 + 7, 16 + 7), kBlack);
-    EXPECT_EQ(map.pixel(32, 16 + 8), kBlack) << "own line west";
-    EXPECT_EQ(map.pixel(32 + 15, 16 + 8), kBlack) << "own line east";
-    EXPECT_EQ(map.pixel(32 + 8, 16), kBlack) << "own line north";
-    EXPECT_EQ(map.pixel(31, 16 + 8), kBlack) << "the west road's line toward it";
-    EXPECT_EQ(map.pixel(16, 16 + 8), grey) << "the neighbour gets no other line";
-    EXPECT_EQ(map.pixel(32 + 8, 15), kBlack) << "the north road's line, in row 1";
-    int cityMarks = 0;
-    for (int y = 16; y < 32; ++y)
-        for (int x = 48; x < 64; ++x)
-            cityMarks += map.pixel(x, y) != grey;
-    EXPECT_EQ(cityMarks, 0);
-
-    Draw_Roads(map, *world, 9, 10, 1, 1); // the west road at the picture's corner: lines fall outside
-    EXPECT_EQ(map.pixel(7, 7), kBlack);
 }
 
 } // namespace
