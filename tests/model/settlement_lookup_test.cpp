@@ -16,33 +16,27 @@ TEST(SettlementLookup, NumbersFreeRecordsAndRecordsOffTheMap)
     world->sector(0, 4).settlementName = "Edge";
     world->settlement(7) = {1, 201, 3, ""}; // only a broken file points past the table
 
-    const SettlementLookup placed = lookUpSettlement(*world, 5);
-    ASSERT_NE(placed.sector, nullptr);
-    EXPECT_EQ(placed.sector->settlementName, "Oakvale");
-    EXPECT_EQ(placed.record->cityState, "Lowmarch");
-    EXPECT_TRUE(placed.onMap);
-    EXPECT_TRUE(placed.inUse);
-
-    const SettlementLookup edge = lookUpSettlement(*world, 6);
-    ASSERT_NE(edge.sector, nullptr);
-    EXPECT_EQ(edge.sector->settlementName, "Edge");
-    EXPECT_FALSE(edge.onMap);
-    EXPECT_FALSE(edge.inUse);
-
-    const SettlementLookup beyond = lookUpSettlement(*world, 7);
-    EXPECT_NE(beyond.record, nullptr);
-    EXPECT_EQ(beyond.sector, nullptr);
-    EXPECT_FALSE(beyond.onMap);
-    EXPECT_TRUE(beyond.inUse);
-
-    const SettlementLookup free = lookUpSettlement(*world, 8);
-    EXPECT_EQ(free.sector, &world->sector(0, 0));
-    EXPECT_FALSE(free.onMap);
-
-    for (long long number : {0LL, 161LL, -1LL, 1LL << 40}) {
-        const SettlementLookup none = lookUpSettlement(*world, number);
-        EXPECT_EQ(none.record, nullptr) << number;
-        EXPECT_EQ(none.sector, nullptr) << number;
-        EXPECT_FALSE(none.inUse || none.onMap) << number;
+    struct Case {
+        long long number;
+        const Settlement *record;
+        const Sector *sector;
+        bool onMap, inUse;
+    };
+    const Case cases[] = {
+        {5, &world->settlement(5), &world->sector(7, 9), true, true},
+        {6, &world->settlement(6), &world->sector(0, 4), false, false},
+        {7, &world->settlement(7), nullptr, false, true},
+        {8, &world->settlement(8), &world->sector(0, 0), false, false},
+        {0, nullptr, nullptr, false, false},
+        {161, nullptr, nullptr, false, false},
+        {-1, nullptr, nullptr, false, false},
+        {1LL << 40, nullptr, nullptr, false, false},
+    };
+    for (const Case &c : cases) {
+        const SettlementLookup found = lookUpSettlement(*world, c.number);
+        EXPECT_EQ(found.record, c.record) << c.number;
+        EXPECT_EQ(found.sector, c.sector) << c.number;
+        EXPECT_EQ(found.onMap, c.onMap) << c.number;
+        EXPECT_EQ(found.inUse, c.inUse) << c.number;
     }
 }
