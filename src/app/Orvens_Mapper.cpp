@@ -336,8 +336,10 @@ bool Orvens_Mapper::startUp(const std::string &mapToOpen)
         about_->setPleaseWaitVisible(false);
     }
     clampView(state_.view);
-    rememberedMapFile_ = doc.mapFileName;
+    // A map opened at start-up (the last one, or one the desktop handed
+    // over) is a recent map too.
     fillRecentMapsMenu();
+    rememberMapFile();
     // After the start-up steps: the changes a crashed run left behind.
     autosave_ = new Autosave(world_, state_, platform_, paths_.recoveryFolder, this);
     if (autosave_->offerLeftBehind()) {

@@ -15,6 +15,7 @@
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMetaObject>
 #include <QMimeData>
 #include <QUrl>
 
@@ -135,8 +136,14 @@ void Orvens_Mapper::rememberMapFile()
     if (name == rememberedMapFile_ || state_.document.mapChanged || name.find('/') == std::string::npos)
         return;
     rememberedMapFile_ = name;
+    std::vector<std::string> &recent = state_.options.desktop.recentMaps;
+    if (!recent.empty() && recent.front() == name)
+        return;
     rememberRecentMap(state_.options.desktop, name);
     writeOptions(state_, platform_);
+    // Queued: the item that opened this map may be the one sending now, and
+    // refilling the menu deletes its items.
+    QMetaObject::invokeMethod(this, &Orvens_Mapper::fillRecentMapsMenu, Qt::QueuedConnection);
 }
 
 } // namespace wayscribe
