@@ -9,9 +9,7 @@ using SettlementImport = ImportTest;
 TEST_F(SettlementImport, TownWithShopsOfEveryRowKind)
 {
     readData("banner_town.htm");
-    EXPECT_EQ(world->settlement(23).inUse, 1);
-    EXPECT_EQ(world->settlement(23).x, 46);
-    EXPECT_EQ(world->settlement(23).y, 68);
+    EXPECT_EQ(recordText(world->settlement(23)), "1 46,68 ");
     EXPECT_EQ(at(46, 68).settlementName, "Brackwater "); // the blank before "(" stays
     EXPECT_EQ(at(46, 68).settlementNumber, 23);
     EXPECT_EQ(at(46, 68).note, "We sell our hides here for 14 gp each.");
@@ -84,8 +82,7 @@ TEST_F(SettlementImport, OnlyLowerCaseKindWordsMoveThePartyToAnotherCell)
     shape.heading = "CITY OF Ashtown (5)";
     shape.afterHeading = {"", "", ""};
     readText(reportText(shape));
-    EXPECT_EQ(world->settlement(5).x, 46);
-    EXPECT_EQ(world->settlement(5).y, 67);
+    EXPECT_EQ(recordText(world->settlement(5)), "1 46,67 ");
 }
 
 TEST_F(SettlementImport, AnotherSettlementOfTheNumberAsksFirst)

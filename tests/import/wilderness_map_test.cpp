@@ -104,9 +104,7 @@ TEST_F(WildernessMap, APartyOnWaterLeavesThePartyPositionAtZero)
     EXPECT_EQ(at(46, 67).terrain, 7);
     // No settlement cell was seen: the party is at 0,0, the unused corner of
     // the tables, and everything placed from it is placed from there.
-    EXPECT_EQ(world->settlement(30).inUse, 1);
-    EXPECT_EQ(world->settlement(30).x, 0);
-    EXPECT_EQ(world->settlement(30).y, 0);
+    EXPECT_EQ(recordText(world->settlement(30)), "1 0,0 ");
     EXPECT_EQ(at(0, 0).settlementName, "Nowhere ");
     EXPECT_EQ(at(0, 0).note, "Three gp.");
     EXPECT_EQ(at(2, 4).note, "DUNGEON: Deep Well.  1+ levels.");

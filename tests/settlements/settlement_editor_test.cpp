@@ -46,6 +46,7 @@ struct Editor : ::testing::Test {
         world->sector(57, 112).note = " well ";
         settle(30, "Elsewhere", 9, 9);
     }
+    std::string record(int n) const { return recordText(world->settlement(n)); }
     std::string lastMessage() const { return platform.messages.empty() ? "" : platform.messages.back().text; }
 };
 
@@ -115,9 +116,8 @@ TEST_F(Editor, NumberBoxRangeAndNumbersInUse)
     EXPECT_EQ(world->sector(57, 112).settlementNumber, 160);
     EXPECT_EQ(editor->numberLeft("Oakvale", "0", "well"), std::nullopt);
     EXPECT_EQ(world->sector(57, 112).settlementNumber, 0);
-    EXPECT_EQ(world->settlement(0).inUse, 1);
-    EXPECT_EQ(world->settlement(0).x, 57);
-    EXPECT_EQ(world->settlement(160).inUse, 0);
+    EXPECT_EQ(record(0), "1 57,112 ");
+    EXPECT_EQ(record(160), "0 0,0 ");
 }
 
 TEST_F(Editor, RenumberingThroughTheBoxLeavesCityStateAndShopsBehind)
@@ -128,14 +128,8 @@ TEST_F(Editor, RenumberingThroughTheBoxLeavesCityStateAndShopsBehind)
     EXPECT_EQ(state.document.mapChanged, 1);
     EXPECT_EQ(state.selection.selNumber, 40);
     EXPECT_EQ(state.selection.selSettlement, 12); // the editor never changes it
-    const Settlement &now = world->settlement(40), &old = world->settlement(12);
-    EXPECT_EQ(now.inUse, 1);
-    EXPECT_EQ(now.x, 57);
-    EXPECT_EQ(now.y, 112);
-    EXPECT_EQ(now.cityState, "");
-    EXPECT_EQ(old.inUse, 0);
-    EXPECT_EQ(old.x, 0);
-    EXPECT_EQ(old.cityState, "Realm");
+    EXPECT_EQ(record(40), "1 57,112 ");
+    EXPECT_EQ(record(12), "0 0,0 Realm");
     // The old record now stands at (0, 0): a name typed now goes there, and
     // reaches the sector only at the close.
     editor->nameChanged("Oakton");
@@ -155,10 +149,8 @@ TEST_F(Editor, RenumberingAtTheCloseMovesTheCityState)
     openOn(57, 112);
     editor->close("Oakvale", "41", "well");
     EXPECT_EQ(world->sector(57, 112).settlementNumber, 41);
-    EXPECT_EQ(world->settlement(41).cityState, "Realm");
-    EXPECT_EQ(world->settlement(41).x, 57);
-    EXPECT_EQ(world->settlement(12).cityState, "");
-    EXPECT_EQ(world->settlement(12).inUse, 0);
+    EXPECT_EQ(record(41), "1 57,112 Realm");
+    EXPECT_EQ(record(12), "0 0,0 ");
     EXPECT_EQ(state.document.mapChanged, 0);
 
     openOn(57, 112);
@@ -177,8 +169,7 @@ TEST_F(Editor, AnUnnumberedSectorTakesANumber)
     EXPECT_EQ(world->sector(3, 4).settlementNumber, 7);
     EXPECT_EQ(world->sector(3, 4).settlementName, "Hamlet");
     EXPECT_EQ(world->sector(3, 4).note, "pond");
-    EXPECT_EQ(world->settlement(7).x, 3);
-    EXPECT_EQ(world->settlement(7).y, 4);
+    EXPECT_EQ(record(7), "1 3,4 ");
     EXPECT_EQ(state.document.mapChanged, 1);
 
     world->sector(5, 5).terrain = 16;
@@ -186,9 +177,8 @@ TEST_F(Editor, AnUnnumberedSectorTakesANumber)
     openOn(5, 5);
     editor->close("Farm", "8", "");
     EXPECT_EQ(world->sector(5, 5).settlementNumber, 8);
-    EXPECT_EQ(world->settlement(8).cityState, "Carried");
-    EXPECT_EQ(world->settlement(8).x, 5);
-    EXPECT_EQ(world->settlement(0).cityState, "");
+    EXPECT_EQ(record(8), "1 5,5 Carried");
+    EXPECT_EQ(record(0), "0 0,0 ");
 }
 
 TEST_F(Editor, TravelHandOffSkipsTheClose)
@@ -309,6 +299,6 @@ TEST_F(Editor, EachStoredEditIsOneUndoStep)
     EXPECT_EQ(world->shopName(12, 20), "");
     history.undo();
     EXPECT_EQ(world->sector(57, 112).settlementNumber, 12);
-    EXPECT_EQ(world->settlement(12).inUse, 1);
-    EXPECT_EQ(world->settlement(40).inUse, 0);
+    EXPECT_EQ(record(12), "1 57,112 Realm");
+    EXPECT_EQ(record(40), "0 0,0 ");
 }

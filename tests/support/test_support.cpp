@@ -85,6 +85,12 @@ void placeSettlement(World &world, int n, int x, int y, const std::string &name,
     world.sector(x, y).settlementName = name;
 }
 
+std::string recordText(const Settlement &settlement)
+{
+    return std::to_string(settlement.inUse) + " " + std::to_string(settlement.x) + "," +
+           std::to_string(settlement.y) + " " + settlement.cityState;
+}
+
 void stockItem(World &world, int n, int shop, int item, const std::string &name, const std::string &number,
                const std::string &price)
 {

@@ -69,6 +69,8 @@ void writeFile(const std::string &path, const std::string &bytes);
 // Settlement n in use at (x, y), its sector carrying the number and the name.
 void placeSettlement(World &world, int n, int x, int y, const std::string &name,
                      const std::string &cityState = {});
+// A settlement record as "inUse x,y cityState", to compare whole records.
+std::string recordText(const Settlement &settlement);
 // The three fields of item slot `item` of a shop.
 void stockItem(World &world, int n, int shop, int item, const std::string &name, const std::string &number,
                const std::string &price);
