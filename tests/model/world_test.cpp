@@ -1,5 +1,6 @@
 #include "model/new_map.h"
 #include "model/program_state.h"
+#include "model/saved_content.h"
 #include "model/terrain.h"
 #include "model/world.h"
 #include "support/test_support.h"
@@ -56,16 +57,9 @@ TEST(World, NewMapClearsEveryTableAndTheSelections)
     s.selection.selX = s.selection.selY = s.selection.selSettlement = 3;
     s.selection.selShop = s.selection.selNumber = s.selection.selDungeon = 2;
     NewMap(*w, s, p);
-    const Sector &sec = w->sector(7, 9);
-    EXPECT_EQ(sec.terrain, kUnknown);
-    EXPECT_TRUE(sec.note.empty() && sec.settlementName.empty());
-    EXPECT_EQ(sec.settlementNumber + sec.moveMark, 0);
-    EXPECT_EQ(w->settlement(3).inUse + w->settlement(3).x + w->settlement(3).y, 0);
-    EXPECT_EQ(w->settlement(3).cityState, "");
-    EXPECT_EQ(w->item(3, 110, 20, ItemField::Name), "");
-    EXPECT_EQ(w->dungeon(200).name, "");
-    EXPECT_EQ(w->dungeon(200).levels, 0);
-    EXPECT_EQ(w->dungeon(200).level[10].roomData, "");
+    EXPECT_TRUE(sameSavedContent(*w, *std::make_unique<World>()));
+    EXPECT_EQ(w->sector(7, 9).terrain, kUnknown);
+    EXPECT_EQ(w->sector(7, 9).moveMark, 0);
     EXPECT_EQ(w->questorItemName(1000), "");
     EXPECT_EQ(s.document.gameNumber, 0);
     EXPECT_EQ(s.document.mapFileName, "");
