@@ -4,24 +4,20 @@ namespace wayscribe::test {
 
 using DungeonImport = ImportTest;
 
-TEST_F(DungeonImport, ScoutsReportPlacesTheDungeonFromTheParty)
+TEST_F(DungeonImport, ScoutsReportsAndInitialExplorationsPlaceTheDungeonFromTheParty)
 {
+    // Town at 46,68, the dungeon 4 north and 2 east; city at 11,20, the
+    // dungeon 5 south and 3 west. The character before the comma is not part
+    // of the name, and the note is written with two blanks.
     readData("banner_town.htm");
-    // Town at 46,68; 4 north and 2 east. The character before the comma is
-    // not part of the name, and the note is written with two blanks.
     EXPECT_EQ(at(48, 64).note, "DUNGEON: Black Pit.  1+ levels.");
     EXPECT_EQ(world->dungeon(1).name, "Black Pit");
     EXPECT_EQ(world->dungeon(1).levels, 1);
-    EXPECT_EQ(world->dungeon(2).name, "");
-}
-
-TEST_F(DungeonImport, InitialExplorationsGiveTheLevels)
-{
     readData("plain_city.html");
-    // City at 11,20; 5 south and 3 west.
     EXPECT_EQ(at(8, 25).note, "DUNGEON: Sunken Crypt.  2+ levels.");
-    EXPECT_EQ(world->dungeon(1).name, "Sunken Crypt");
-    EXPECT_EQ(world->dungeon(1).levels, 2);
+    EXPECT_EQ(world->dungeon(2).name, "Sunken Crypt");
+    EXPECT_EQ(world->dungeon(2).levels, 2);
+    EXPECT_EQ(world->dungeon(3).name, "");
 }
 
 TEST_F(DungeonImport, TheRecordKeepsALevelCountAboveTen)
