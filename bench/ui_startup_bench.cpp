@@ -49,7 +49,7 @@ int main(int argc, char **argv)
         wayscribe::ProgramState state;
         QuietPlatform platform;
         wayscribe::Orvens_Mapper window(*world, state, platform,
-                                        {dir.path().toStdString(), graphics, options});
+                                        {dir.path().toStdString(), graphics, options, {}});
         platform.attach(&window);
         window.resize(1280, 800);
         window.show();
