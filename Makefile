@@ -1,14 +1,17 @@
 # Quick start on a fresh Debian 12 machine:
 #   make run    install what is missing, build, start the program on the example world
 #   make test   install what is missing, build, run every test
-PACKAGES := build-essential cmake qt6-base-dev libgl-dev libgtest-dev libbenchmark-dev xvfb xauth
+#   make install, make package   see the README's "Installing"
+PACKAGES := build-essential cmake qt6-base-dev libgl-dev libgtest-dev libbenchmark-dev xvfb xauth \
+  desktop-file-utils appstream
 BUILD := build
 ASAN_BUILD := build-asan
 JOBS ?= 2
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 EXAMPLE := examples/example.om1
+PREFIX ?= /usr/local
 
-.PHONY: all deps build run test sanitize bench clean format
+.PHONY: all deps build run test sanitize bench clean format install package
 
 all: build
 
@@ -45,6 +48,18 @@ sanitize: deps
 
 bench: build
 	@for b in $(BUILD)/bin/*_bench; do echo "== $$b"; $$b; done
+
+# Installs under PREFIX; DESTDIR=/some/root puts the same tree under that folder.
+install: deps
+	cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=$(PREFIX)
+	cmake --build $(BUILD) -j$(JOBS)
+	DESTDIR="$(DESTDIR)" cmake --install $(BUILD)
+
+# The Debian package, of the program built for /usr: $(BUILD)/wayscribe_VERSION-1_ARCH.deb
+package: deps
+	cmake -S . -B $(BUILD) -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX=/usr
+	cmake --build $(BUILD) -j$(JOBS)
+	cd $(BUILD) && cpack
 
 format:
 	clang-format -i $$(git ls-files '*.cpp' '*.h')
