@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QIcon>
 #include <QScreen>
 
 #include <memory>
@@ -17,6 +18,9 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     QApplication::setApplicationName("Wayscribe");
     QApplication::setOrganizationName("Wayscribe");
+    // Ties the window to its menu entry and shows the installed icon.
+    QGuiApplication::setDesktopFileName("io.github.wayscribe.Wayscribe");
+    QApplication::setWindowIcon(QIcon::fromTheme("io.github.wayscribe.Wayscribe"));
 
     auto world = std::make_unique<wayscribe::World>();
     wayscribe::ProgramState state;
