@@ -342,9 +342,12 @@ bool Orvens_Mapper::startUp(const std::string &mapToOpen)
     rememberMapFile();
     // After the start-up steps: the changes a crashed run left behind.
     autosave_ = new Autosave(world_, state_, platform_, paths_.recoveryFolder, this);
-    if (autosave_->offerLeftBehind()) {
-        history_->clear();
-        clampView(state_.view);
+    if (const std::optional<LeftBehindMap> copy = autosave_->leftBehind()) {
+        about_->close(); // the question is not to be read through the splash
+        if (autosave_->offer(*copy)) {
+            history_->clear();
+            clampView(state_.view);
+        }
     }
     autosave_->start();
     redrawMap();

@@ -33,23 +33,22 @@ void Autosave::saveNow()
         platform_.setStatus("Autosave failed: " + reason);
 }
 
-bool Autosave::offerLeftBehind()
+bool Autosave::offer(const LeftBehindMap &copy)
 {
-    const std::optional<LeftBehindMap> copy = store_.leftBehind();
-    if (!copy)
-        return false;
-    const std::string map = copy->originalName.empty() ? "a map that was never saved" : copy->originalName;
-    const Answer answer =
-        platform_.message("Wayscribe did not close normally last time. Unsaved changes to " + map +
-                              " were kept.\n\nRestore them now?",
-                          "Restore Unsaved Map", MessageButtons::YesNo, MessageIcon::Question,
-                          "The changes are kept in " + copy->mapPath +
-                              ". If you answer No they stay there until Wayscribe " + "is closed normally.");
+    const std::string &original = copy.originalName;
+    const std::string map = original.empty() ? std::string("a map that was never saved")
+                                             : original.substr(original.find_last_of('/') + 1);
+    const Answer answer = platform_.message(
+        "Wayscribe did not close normally last time. Unsaved changes to " + map +
+            " were kept.\n\nRestore them now?",
+        "Restore Unsaved Map", MessageButtons::YesNo, MessageIcon::Question,
+        (original.empty() ? std::string() : "The map: " + original + "\n") + "The changes: " + copy.mapPath +
+            "\nIf you answer No, they are kept until Wayscribe is closed normally.");
     if (answer != Answer::Yes) {
         store_.setAside();
         return false;
     }
-    const LoadResult result = restoreLeftBehindMap(world_, state_, platform_, *copy);
+    const LoadResult result = restoreLeftBehindMap(world_, state_, platform_, copy);
     copyExists_ = true;
     return result == LoadResult::Complete || result == LoadResult::Partial;
 }

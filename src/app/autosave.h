@@ -24,9 +24,11 @@ public:
     // Starts the timer with the interval of the options; call again after
     // the options change.
     void start();
-    // Offers a copy left behind by a run that crashed. True when it was
-    // restored (the map then needs a redraw).
-    bool offerLeftBehind();
+    // The copy left behind by a run that crashed, if there is one.
+    std::optional<LeftBehindMap> leftBehind() const { return store_.leftBehind(); }
+    // Offers that copy. True when it was restored (the map then needs a
+    // redraw).
+    bool offer(const LeftBehindMap &copy);
     // After every change of the document: a map without unsaved changes
     // needs no copy.
     void followDocument();
