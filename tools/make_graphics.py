@@ -2,12 +2,12 @@
 """Draw every picture of the program into assets/graphics/: the four tile sets, the map markers,
 the toolbar buttons and the About picture. Running it twice writes the same bytes."""
 
-import argparse
 import sys
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
+from graphics.output import write_all  # noqa: E402
 from graphics import banner, markers, set_kjc1, set_kjc2, set_questor, set_tolma, toolbar  # noqa: E402
 from graphics.bmp import encode_bmp  # noqa: E402
 from graphics.gif import encode_gif, quantize  # noqa: E402
@@ -58,16 +58,8 @@ def all_files():
 
 
 def main():
-    parser = argparse.ArgumentParser(description=__doc__)
-    default = Path(__file__).resolve().parent.parent / "assets" / "graphics"
-    parser.add_argument("--out", type=Path, default=default, help="graphics folder to write (default: %(default)s)")
-    args = parser.parse_args()
-    files = all_files()
-    for name, data in sorted(files.items()):
-        path = args.out / name
-        path.parent.mkdir(parents=True, exist_ok=True)
-        path.write_bytes(data)
-    print("wrote %d files, %d bytes, to %s" % (len(files), sum(map(len, files.values())), args.out))
+    root = Path(__file__).resolve().parent.parent
+    write_all(__doc__, root / "assets" / "graphics", "graphics folder", all_files())
 
 
 if __name__ == "__main__":

@@ -3,12 +3,12 @@
 it: the SVG in scalable/apps and a PNG of every size in NxN/apps. Running it twice writes the same
 bytes."""
 
-import argparse
 import sys
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parent))
 
+from graphics.output import write_all  # noqa: E402
 from graphics import icon  # noqa: E402
 from graphics.png import encode_png_rgba  # noqa: E402
 from graphics.vector import rasterize, svg_document  # noqa: E402
@@ -27,16 +27,8 @@ def all_files():
 
 
 def main():
-    parser = argparse.ArgumentParser(description=__doc__)
-    default = Path(__file__).resolve().parent.parent / "assets" / "icons" / "hicolor"
-    parser.add_argument("--out", type=Path, default=default, help="icon theme folder to write (default: %(default)s)")
-    args = parser.parse_args()
-    files = all_files()
-    for name, data in sorted(files.items()):
-        path = args.out / name
-        path.parent.mkdir(parents=True, exist_ok=True)
-        path.write_bytes(data)
-    print("wrote %d files, %d bytes, to %s" % (len(files), sum(map(len, files.values())), args.out))
+    root = Path(__file__).resolve().parent.parent
+    write_all(__doc__, root / "assets" / "icons" / "hicolor", "icon theme folder", all_files())
 
 
 if __name__ == "__main__":
